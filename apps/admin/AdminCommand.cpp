@@ -1,0 +1,156 @@
+#include "AdminCommand.h"
+
+#include "database/Schema.h"
+#include "foundation/ConnectionPool.h"
+#include "foundation/ConnectionString.h"
+#include "foundation/DbError.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFileInfo>
+
+namespace qd8 {
+
+namespace {
+
+const DatabaseRole Roles[] = {DatabaseRole::Application, DatabaseRole::CommandCentre, DatabaseRole::CompanyData};
+
+QString option(const QStringList& arguments, const QString& name)
+{
+    const qsizetype at = arguments.indexOf(name);
+    return at >= 0 && at + 1 < arguments.size() ? arguments[at + 1] : QString();
+}
+
+} // namespace
+
+int AdminCommand::usage()
+{
+    m_err << "usage:\n"
+             "  qd8-admin init DIR [--force]\n"
+             "      creates QD8Command.dat, QD8Center.dat and QD8Data.dat (SQLite) in DIR with the schema\n"
+             "      and the sample company\n"
+             "  qd8-admin init --app CONN --center CONN --data CONN [--force]\n"
+             "      the same on the databases the connection strings name (PostgreSQL databases are\n"
+             "      created when missing)\n"
+             "  qd8-admin check CONN [--role app|center|data]\n"
+             "      reports the tables, views and columns the database lacks\n";
+    m_err.flush();
+    return 2;
+}
+
+int AdminCommand::run(const QStringList& arguments)
+{
+    if (arguments.isEmpty())
+        return usage();
+    try {
+        if (arguments[0] == QLatin1String("init"))
+            return init(arguments.mid(1));
+        if (arguments[0] == QLatin1String("check"))
+            return check(arguments.mid(1));
+    } catch (const DbError& e) {
+        m_err << "qd8-admin: " << e.message() << '\n';
+        if (!e.statement().isEmpty())
+            m_err << "  while running: " << e.statement().left(400) << '\n';
+        m_err.flush();
+        return 1;
+    }
+    return usage();
+}
+
+int AdminCommand::init(const QStringList& arguments)
+{
+    const bool force = arguments.contains(QLatin1String("--force"));
+    QStringList connectionStrings;
+    if (arguments.contains(QLatin1String("--app"))) {
+        for (const char* key : {"--app", "--center", "--data"}) {
+            const QString cs = option(arguments, QLatin1String(key));
+            if (cs.isEmpty()) {
+                m_err << "qd8-admin init: " << key << " CONN is missing\n";
+                return usage();
+            }
+            connectionStrings << cs;
+        }
+        return initDatabases(connectionStrings, force);
+    }
+    QStringList positional;
+    for (const QString& a : arguments)
+        if (!a.startsWith(QLatin1String("--")))
+            positional << a;
+    if (positional.size() != 1)
+        return usage();
+    QDir dir(positional[0]);
+    if (!dir.exists() && !QDir().mkpath(dir.path())) {
+        m_err << "qd8-admin init: cannot create the folder " << dir.path() << '\n';
+        return 1;
+    }
+    for (DatabaseRole role : Roles) {
+        const QString file = dir.absoluteFilePath(Schema::fileName(role));
+        if (QFileInfo::exists(file)) {
+            if (!force) {
+                m_err << "qd8-admin init: " << file << " already exists (use --force to create it anew)\n";
+                return 1;
+            }
+            for (const QString& suffix : {QString(), QStringLiteral("-wal"), QStringLiteral("-shm")})
+                QFile::remove(file + suffix);
+        }
+        connectionStrings << QStringLiteral("Driver=SQLite;Data Source=%1").arg(file);
+    }
+    return initDatabases(connectionStrings, false);
+}
+
+int AdminCommand::initDatabases(const QStringList& connectionStrings, bool force)
+{
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < 3; ++i) {
+        const DatabaseRole role = Roles[i];
+        QString cs = connectionStrings[i];
+        const bool sqlite = ConnectionString::parse(cs).engine() == Engine::SQLite;
+        // A new SQLite file is created on this first open only.
+        const QString creating = sqlite ? cs + QStringLiteral(";Create=yes") : cs;
+        Schema::createDatabaseIfMissing(creating);
+        if (force)
+            Schema::dropAll(creating);
+        Schema::create(creating, role);
+        const qint64 rows = Schema::loadSample(creating, role);
+        ConnectionPool::instance().clear(creating);
+        m_out << Schema::fileName(role) << ": " << Schema::objectNames(role).size() << " tables and views, "
+              << rows << " sample rows\n    " << cs << '\n';
+    }
+    m_out << "Sample company created in " << timer.elapsed() << " ms.\n";
+    m_out.flush();
+    return 0;
+}
+
+int AdminCommand::check(const QStringList& arguments)
+{
+    if (arguments.isEmpty() || arguments[0].startsWith(QLatin1String("--")))
+        return usage();
+    const QString cs = arguments[0];
+    DatabaseRole role = Schema::roleOf(cs);
+    const QString roleText = option(arguments, QStringLiteral("--role"));
+    if (!roleText.isEmpty()) {
+        bool known = false;
+        for (DatabaseRole r : Roles)
+            if (Schema::roleName(r) == roleText) {
+                role = r;
+                known = true;
+            }
+        if (!known)
+            return usage();
+    }
+    const auto problems = Schema::check(cs, role);
+    for (const auto& p : problems) {
+        if (p.missingColumns.isEmpty())
+            m_out << "missing table or view: " << p.table << '\n';
+        else
+            m_out << "missing columns in " << p.table << ": " << p.missingColumns.join(QStringLiteral(", ")) << '\n';
+    }
+    m_out << (problems.isEmpty() ? "OK: " : "Problems: ") << problems.size() << " of "
+          << Schema::objectNames(role).size() << " tables and views of the " << Schema::roleName(role)
+          << " database are missing or incomplete\n";
+    m_out.flush();
+    return problems.isEmpty() ? 0 : 1;
+}
+
+} // namespace qd8

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QStringList>
+#include <QTextStream>
+
+namespace qd8 {
+
+// qd8-admin: creates the three databases with the schema and the sample company, and
+// checks a database against the schema. Returns the process exit code: 0 done, 1 the
+// check found problems or an operation failed, 2 the command line is wrong.
+class AdminCommand {
+public:
+    AdminCommand(QTextStream& out, QTextStream& err) : m_out(out), m_err(err) {}
+    int run(const QStringList& arguments);
+
+private:
+    int init(const QStringList& arguments);
+    int check(const QStringList& arguments);
+    int usage();
+    int initDatabases(const QStringList& connectionStrings, bool force);
+
+    QTextStream& m_out;
+    QTextStream& m_err;
+};
+
+} // namespace qd8

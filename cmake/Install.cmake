@@ -1,0 +1,30 @@
+# `cmake --install` puts the library, its headers under include/QD8Designer2/ and the
+# CMake package QD8Designer2 (target QD8Designer2::QD8Designer2) into the prefix.
+include(CMakePackageConfigHelpers)
+
+install(TARGETS QD8Designer2 EXPORT QD8Designer2Targets
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/QD8Designer2)
+install(TARGETS qd8-admin RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+
+foreach(layer foundation database)
+  install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/${layer}
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/QD8Designer2
+    FILES_MATCHING PATTERN "*.h")
+endforeach()
+
+install(EXPORT QD8Designer2Targets
+  NAMESPACE QD8Designer2::
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/QD8Designer2)
+
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/QD8Designer2Config.cmake.in
+  ${PROJECT_BINARY_DIR}/QD8Designer2Config.cmake
+  INSTALL_DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/QD8Designer2)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/QD8Designer2ConfigVersion.cmake
+  COMPATIBILITY SameMajorVersion)
+install(FILES
+  ${PROJECT_BINARY_DIR}/QD8Designer2Config.cmake
+  ${PROJECT_BINARY_DIR}/QD8Designer2ConfigVersion.cmake
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/QD8Designer2)

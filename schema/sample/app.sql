@@ -1,0 +1,28 @@
+-- Sample company: application database (QD8Command.dat).
+-- Three modules (general ledger, receivables, inventory) and the hidden
+-- module CENTER, with their commands.
+
+INSERT INTO QD8TCommandGroup (TCmGAlias, TCmGName, TCmGName2, TCmGIcon, TCmGSort, TCmGShow, TCmGFlag1) VALUES ('GL', 'บัญชีแยกประเภท', 'General Ledger', 'GL.ico', 1, 1, 1);
+INSERT INTO QD8TCommandGroup (TCmGAlias, TCmGName, TCmGName2, TCmGIcon, TCmGSort, TCmGShow, TCmGFlag1) VALUES ('AR', 'ลูกหนี้', 'Accounts Receivable', 'AR.ico', 2, 1, 1);
+INSERT INTO QD8TCommandGroup (TCmGAlias, TCmGName, TCmGName2, TCmGIcon, TCmGSort, TCmGShow, TCmGFlag1) VALUES ('IC', 'สินค้าคงคลัง', 'Inventory Control', 'IC.ico', 3, 1, 1);
+INSERT INTO QD8TCommandGroup (TCmGAlias, TCmGName, TCmGName2, TCmGIcon, TCmGSort, TCmGShow, TCmGFlag1) VALUES ('CENTER', 'ส่วนกลาง', 'Common Settings', NULL, 99, 0, 1);
+
+-- General ledger. GLBOOK is not on the list bar (module list only).
+INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType, TCmdReportNo, TCmdIcon, TCmdSmallIcon, TCmdSort, TCmdShowListBar, TCmdHRFilter, TCmdActiveStatus, TCmdFlag1) VALUES (101, 'GLJV', 'บันทึกรายการบัญชีรายวัน', '&Journal Voucher', 'GL', 'F', NULL, 'GLJV.ico', 'GLJV16.ico', 1, 1, 0, 1, 1);
+INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType, TCmdReportNo, TCmdIcon, TCmdSmallIcon, TCmdSort, TCmdShowListBar, TCmdHRFilter, TCmdActiveStatus, TCmdFlag1) VALUES (102, 'GLCHART', 'ผังบัญชี', 'Chart of Accounts', 'GL', 'F', NULL, 'GLCHART.ICO', 'GLCHART16.ICO', 2, 1, 0, 1, 1);
+INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType, TCmdReportNo, TCmdIcon, TCmdSmallIcon, TCmdSort, TCmdShowListBar, TCmdHRFilter, TCmdActiveStatus, TCmdFlag1) VALUES (103, 'GLBOOK', 'สมุดรายวัน', 'Journal Books', 'GL', 'F', NULL, 'GLBOOK.ico', 'GLBOOK16.ico', 3, 0, 0, 1, 1);
+INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType, TCmdReportNo, TCmdIcon, TCmdSmallIcon, TCmdSort, TCmdShowListBar, TCmdHRFilter, TCmdActiveStatus, TCmdFlag1) VALUES (104, 'GLTB', 'งบทดลอง', 'Trial Balance', 'GL', 'R', 'GL-R01', 'GLTB.ico', 'GLTB16.ico', 4, 1, 0, 1, 1);
+
+-- Receivables. ARCREDIT carries a doubled ampersand that stays in the caption.
+INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType, TCmdReportNo, TCmdIcon, TCmdSmallIcon, TCmdSort, TCmdShowListBar, TCmdHRFilter, TCmdActiveStatus, TCmdFlag1) VALUES (201, 'ARCUSTOMER', 'ข้อมูลลูกค้า', 'Customers', 'AR', 'F', NULL, 'ARCUSTOMER.ico', 'ARCUSTOMER16.ico', 1, 1, 0, 1, 1);
+INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType, TCmdReportNo, TCmdIcon, TCmdSmallIcon, TCmdSort, TCmdShowListBar, TCmdHRFilter, TCmdActiveStatus, TCmdFlag1) VALUES (202, 'ARINVOICE', 'ใบแจ้งหนี้', 'Invoices', 'AR', 'F', NULL, 'ARINVOICE.ico', 'ARINVOICE16.ico', 2, 1, 0, 1, 1);
+INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType, TCmdReportNo, TCmdIcon, TCmdSmallIcon, TCmdSort, TCmdShowListBar, TCmdHRFilter, TCmdActiveStatus, TCmdFlag1) VALUES (203, 'ARCHEQUE', 'เช็ครับ', 'Cheques Received', 'AR', 'F', NULL, 'ARCHEQUE.bmp', NULL, 3, 1, 0, 1, 1);
+INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType, TCmdReportNo, TCmdIcon, TCmdSmallIcon, TCmdSort, TCmdShowListBar, TCmdHRFilter, TCmdActiveStatus, TCmdFlag1) VALUES (204, 'ARCREDIT', 'วงเงินเครดิต && ยอดคงเหลือ', 'Credit Limit && Balance', 'AR', 'F', NULL, 'ARCREDIT.ico', 'ARCREDIT16.ico', 4, 1, 0, 1, 1);
+INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType, TCmdReportNo, TCmdIcon, TCmdSmallIcon, TCmdSort, TCmdShowListBar, TCmdHRFilter, TCmdActiveStatus, TCmdFlag1) VALUES (205, 'ARAGING', 'รายงานวิเคราะห์อายุลูกหนี้', 'Receivable Aging', 'AR', 'R', 'AR-R01', 'ARAGING.ico', 'ARAGING16.ico', 5, 1, 0, 1, 1);
+
+-- Inventory. ICCOUNT is retired (not in use): it never shows anywhere.
+INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType, TCmdReportNo, TCmdIcon, TCmdSmallIcon, TCmdSort, TCmdShowListBar, TCmdHRFilter, TCmdActiveStatus, TCmdFlag1) VALUES (301, 'ICPRODUCT', 'ข้อมูลสินค้า', 'Products', 'IC', 'F', NULL, 'ICPRODUCT.ico', 'ICPRODUCT16.ico', 1, 1, 0, 1, 1);
+INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType, TCmdReportNo, TCmdIcon, TCmdSmallIcon, TCmdSort, TCmdShowListBar, TCmdHRFilter, TCmdActiveStatus, TCmdFlag1) VALUES (302, 'ICISSUEUSE', 'ใบเบิกสินค้า', 'Stock Issue', 'IC', 'F', NULL, 'ICISSUEUSE.ico', 'ICISSUEUSE16.ico', 2, 1, 1, 1, 1);
+INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType, TCmdReportNo, TCmdIcon, TCmdSmallIcon, TCmdSort, TCmdShowListBar, TCmdHRFilter, TCmdActiveStatus, TCmdFlag1) VALUES (303, 'PURPR', 'ใบขอซื้อ', 'Purchase Request', 'IC', 'F', NULL, 'PURPR.ico', 'PURPR16.ico', 3, 1, 0, 1, 1);
+INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType, TCmdReportNo, TCmdIcon, TCmdSmallIcon, TCmdSort, TCmdShowListBar, TCmdHRFilter, TCmdActiveStatus, TCmdFlag1) VALUES (304, 'ICSTOCK', 'รายงานสินค้าคงเหลือ', 'Stock Balance', 'IC', 'R', 'IC-R01', 'ICSTOCK.ico', 'ICSTOCK16.ico', 4, 1, 0, 1, 1);
+INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType, TCmdReportNo, TCmdIcon, TCmdSmallIcon, TCmdSort, TCmdShowListBar, TCmdHRFilter, TCmdActiveStatus, TCmdFlag1) VALUES (399, 'ICCOUNT', 'ตรวจนับสินค้า', 'Stock Count', 'IC', 'F', NULL, 'ICCOUNT.ico', 'ICCOUNT16.ico', 9, 1, 0, 1, 0);

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+namespace qd8 {
+
+// The three databases of an installation.
+enum class DatabaseRole {
+    Application,    // "QD8Command.dat": command catalogue and the editors' metadata
+    CommandCentre,  // "QD8Center.dat": command caption overrides
+    CompanyData     // "QD8Data.dat": session tables (users, settings, rights) and business rows
+};
+
+// The portable DDL and the sample company, compiled into the library, and what creates
+// and checks them on any engine.
+class Schema {
+public:
+    static QString fileName(DatabaseRole role);  // "QD8Command.dat", ...
+    static QString roleName(DatabaseRole role);  // "app", "center", "data"
+    // The role a connection string's database plays, from its file or database name.
+    static DatabaseRole roleOf(const QString& connectionString);
+
+    static QString ddl(DatabaseRole role);
+    static QString sample(DatabaseRole role);
+    // The statements of a script: split at lines ending in ";", "--" comment lines dropped.
+    static QStringList statements(const QString& script);
+
+    // Creates a PostgreSQL database named by the connection string when the server does
+    // not have it yet (a database may be named "QD8Command.dat" literally). No-op on SQLite.
+    static void createDatabaseIfMissing(const QString& connectionString);
+    // Drops every table and view of the database (for init --force on PostgreSQL).
+    static void dropAll(const QString& connectionString);
+    // Creates every table and view of the role in one transaction.
+    static void create(const QString& connectionString, DatabaseRole role);
+    // Loads the sample company's rows of the role in one transaction; returns rows written.
+    static qint64 loadSample(const QString& connectionString, DatabaseRole role);
+
+    struct Problem {
+        QString table;
+        QStringList missingColumns;  // empty: the whole table or view is missing
+    };
+    // Tables, views and columns of the role that the database lacks.
+    static QList<Problem> check(const QString& connectionString, DatabaseRole role);
+    // Every table and view name of the role, as the DDL spells it.
+    static QStringList objectNames(DatabaseRole role);
+};
+
+} // namespace qd8

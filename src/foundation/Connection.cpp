@@ -1,0 +1,134 @@
+#include "foundation/Connection.h"
+
+#include "foundation/Backend.h"
+#include "foundation/ConnectionPool.h"
+#include "foundation/DbError.h"
+#include "foundation/SqlDialect.h"
+#include "foundation/SqlTrace.h"
+
+namespace qd8 {
+
+struct Connection::State {
+    QString connectionString;
+    std::unique_ptr<Backend> backend;
+};
+
+namespace {
+
+// Refusal, dialect rewrite and tracing around one statement.
+template <typename Run>
+auto traced(Backend& backend, const QString& connectionString, const Sql& sql, Run&& run)
+{
+    if (sql.isBroken()) {
+        const QString message = QStringLiteral("Statement refused: the text value \"%1\" holds a single quote, "
+                                               "which cannot stand between the quotes of the statement")
+                                    .arg(sql.brokenValue());
+        SqlTrace::report({sql.text(), {}, connectionString, true, message});
+        throw DbError(DbError::Kind::Refused, message, sql.text());
+    }
+    QString sent;
+    try {
+        sent = toEngineSql(backend.engine(), sql.text());
+    } catch (const DbError& e) {
+        SqlTrace::report({sql.text(), {}, connectionString, true, e.message()});
+        throw;
+    }
+    if (!SqlTrace::active())
+        return run(sent);
+    try {
+        auto result = run(sent);
+        SqlTrace::report({sql.text(), sent, connectionString, false, {}});
+        return result;
+    } catch (const DbError& e) {
+        SqlTrace::report({sql.text(), sent, connectionString, false, e.message()});
+        throw;
+    }
+}
+
+} // namespace
+
+Connection::Connection() = default;
+
+Connection::~Connection()
+{
+    close();
+}
+
+void Connection::open(const QString& connectionString)
+{
+    close();
+    auto state = std::make_shared<State>();
+    state->connectionString = connectionString;
+    state->backend = ConnectionPool::instance().acquire(connectionString);
+    d = std::move(state);
+}
+
+void Connection::close()
+{
+    if (!d)
+        return;
+    ConnectionPool::instance().release(d->connectionString, std::move(d->backend));
+    d.reset();
+}
+
+bool Connection::isOpen() const
+{
+    return d && d->backend;
+}
+
+const QString& Connection::connectionString() const
+{
+    static const QString none;
+    return d ? d->connectionString : none;
+}
+
+Engine Connection::engine() const
+{
+    return backend().engine();
+}
+
+Backend& Connection::backend() const
+{
+    if (!isOpen())
+        throw DbError(DbError::Kind::Usage, QStringLiteral("The connection is not open"));
+    return *d->backend;
+}
+
+std::unique_ptr<ResultData> Connection::query(const Sql& sql, const QVariantList& params)
+{
+    Backend& b = backend();
+    return traced(b, d->connectionString, sql, [&](const QString& sent) { return b.query(sent, params); });
+}
+
+qint64 Connection::execute(const Sql& sql, const QVariantList& params)
+{
+    Backend& b = backend();
+    return traced(b, d->connectionString, sql, [&](const QString& sent) { return b.execute(sent, params); });
+}
+
+qint64 Connection::execute(const Sql& sql)
+{
+    return execute(sql, {});
+}
+
+void Connection::beginTrans()
+{
+    backend().begin();
+}
+
+void Connection::commitTrans()
+{
+    backend().commit();
+}
+
+void Connection::rollbackTrans()
+{
+    backend().rollback();
+}
+
+bool Connection::inTransaction() const
+{
+    return isOpen() && d->backend->inTransaction();
+}
+
+} // namespace qd8

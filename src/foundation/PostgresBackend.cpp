@@ -1,0 +1,298 @@
+#include "foundation/PostgresBackend.h"
+
+#include "foundation/Currency.h"
+#include "foundation/DbError.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <libpq-fe.h>
+#include <poll.h>
+
+#include <vector>
+
+namespace qd8 {
+
+namespace {
+
+constexpr qsizetype MaxPrepared = 256;
+
+// Type OIDs from pg_type.h.
+enum : Oid {
+    BoolOid = 16, Int8Oid = 20, Int2Oid = 21, Int4Oid = 23, OidOid = 26,
+    Float4Oid = 700, Float8Oid = 701, NumericOid = 1700,
+    DateOid = 1082, TimestampOid = 1114, TimestampTzOid = 1184, ByteaOid = 17,
+};
+
+ColumnKind kindOfOid(Oid oid)
+{
+    switch (oid) {
+    case BoolOid: return ColumnKind::Bool;
+    case Int2Oid: case Int4Oid: case Int8Oid: case OidOid: return ColumnKind::Integer;
+    case Float4Oid: case Float8Oid: return ColumnKind::Real;
+    case NumericOid: return ColumnKind::Money;
+    case DateOid: return ColumnKind::Date;
+    case TimestampOid: case TimestampTzOid: return ColumnKind::DateTime;
+    case ByteaOid: return ColumnKind::Blob;
+    default: return ColumnKind::Text;
+    }
+}
+
+// The PGresult itself is the row store: libpq already keeps it compact.
+class PostgresResult final : public ResultData {
+public:
+    explicit PostgresResult(PGresult* result) : m_result(result)
+    {
+        const int count = PQnfields(result);
+        m_columns.reserve(count);
+        for (int c = 0; c < count; ++c)
+            m_columns.append({QString::fromUtf8(PQfname(result, c)), kindOfOid(PQftype(result, c))});
+    }
+    ~PostgresResult() override { PQclear(m_result); }
+
+    qsizetype rowCount() const override { return PQntuples(m_result); }
+
+    QVariant value(qsizetype row, int column) const override
+    {
+        const int r = int(row);
+        if (PQgetisnull(m_result, r, column))
+            return {};
+        const char* data = PQgetvalue(m_result, r, column);
+        const int size = PQgetlength(m_result, r, column);
+        switch (m_columns[column].kind) {
+        case ColumnKind::Integer: {
+            const qlonglong v = QByteArray::fromRawData(data, size).toLongLong();
+            return v >= INT32_MIN && v <= INT32_MAX ? QVariant(int(v)) : QVariant(v);
+        }
+        case ColumnKind::Real:
+            return QByteArray::fromRawData(data, size).toDouble();
+        case ColumnKind::Bool:
+            return QVariant(data[0] == 't');
+        case ColumnKind::Money:
+            // numeric arrives as exact decimal text; money that fits four decimals is Currency
+            if (auto c = Currency::parse(data, size))
+                return QVariant::fromValue(*c);
+            return QByteArray::fromRawData(data, size).toDouble();
+        case ColumnKind::Date:
+            return QDate::fromString(QLatin1String(data, size), Qt::ISODate);
+        case ColumnKind::DateTime: {
+            // "2026-01-31 13:45:00[.123456][+07]"
+            const QLatin1String text(data, qMin(size, 19));
+            QDateTime dt = QDateTime::fromString(text, QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+            if (size > 20 && data[19] == '.') {
+                int ms = 0, digits = 0;
+                for (int i = 20; i < size && data[i] >= '0' && data[i] <= '9'; ++i, ++digits)
+                    if (digits < 3)
+                        ms = ms * 10 + (data[i] - '0');
+                for (; digits < 3; ++digits)
+                    ms *= 10;
+                dt = dt.addMSecs(ms);
+            }
+            return dt;
+        }
+        case ColumnKind::Blob: {
+            size_t length = 0;
+            unsigned char* bytes = PQunescapeBytea(reinterpret_cast<const unsigned char*>(data), &length);
+            QByteArray out(reinterpret_cast<const char*>(bytes), qsizetype(length));
+            PQfreemem(bytes);
+            return out;
+        }
+        default:
+            return QString::fromUtf8(data, size);
+        }
+    }
+
+private:
+    PGresult* m_result;
+};
+
+QByteArray parameterText(const QVariant& v)
+{
+    switch (v.typeId()) {
+    case QMetaType::Bool:
+        return v.toBool() ? "1" : "0";
+    case QMetaType::Double:
+    case QMetaType::Float:
+        return QByteArray::number(v.toDouble(), 'g', 17);
+    case QMetaType::QDate:
+        return v.toDate().toString(Qt::ISODate).toLatin1();
+    case QMetaType::QDateTime:
+        return v.toDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")).toLatin1();
+    default:
+        break;
+    }
+    if (v.typeId() == qMetaTypeId<Currency>())
+        return v.value<Currency>().toFixedString().toLatin1();
+    return v.toString().toUtf8();
+}
+
+bool connectionLost(PGconn* conn)
+{
+    return PQstatus(conn) == CONNECTION_BAD;
+}
+
+} // namespace
+
+PostgresBackend::PostgresBackend(const ConnectionString& cs)
+    : m_connInfo(cs.libpqConnInfo().toUtf8())
+{
+    m_conn = PQconnectdb(m_connInfo.constData());
+    if (PQstatus(m_conn) != CONNECTION_OK) {
+        const QString message = QString::fromUtf8(PQerrorMessage(m_conn)).trimmed();
+        PQfinish(m_conn);
+        m_conn = nullptr;
+        throw DbError(DbError::Kind::Connection,
+            QStringLiteral("Cannot connect to PostgreSQL database \"%1\": %2").arg(cs.value({"database", "initial catalog", "dbname"}), message));
+    }
+    PQsetNoticeProcessor(m_conn, [](void*, const char*) {}, nullptr);
+}
+
+PostgresBackend::~PostgresBackend()
+{
+    PQfinish(m_conn);
+}
+
+bool PostgresBackend::reconnect()
+{
+    m_prepared.clear();
+    m_seen.clear();
+    PQreset(m_conn);
+    return PQstatus(m_conn) == CONNECTION_OK;
+}
+
+bool PostgresBackend::validate()
+{
+    if (connectionLost(m_conn))
+        return reconnect();
+    // An idle connection has nothing to read unless the server said goodbye (a restart
+    // sends a FATAL notice and closes the socket): a poll costs no round trip.
+    pollfd fd{PQsocket(m_conn), POLLIN, 0};
+    if (fd.fd < 0)
+        return reconnect();
+    if (poll(&fd, 1, 0) > 0) {
+        if (!PQconsumeInput(m_conn) || connectionLost(m_conn))
+            return reconnect();
+        while (PGnotify* n = PQnotifies(m_conn))
+            PQfreemem(n);
+    }
+    return true;
+}
+
+PGresult* PostgresBackend::send(const QByteArray& sql, const QString& text, const QVariantList& params)
+{
+    std::vector<QByteArray> values;
+    std::vector<const char*> pointers;
+    values.reserve(size_t(params.size()));
+    pointers.reserve(size_t(params.size()));
+    for (const QVariant& p : params) {
+        if (p.isNull()) {
+            values.emplace_back();
+            pointers.push_back(nullptr);
+        } else {
+            values.push_back(parameterText(p));
+            pointers.push_back(values.back().constData());
+        }
+    }
+    const int count = int(params.size());
+    if (auto it = m_prepared.constFind(text); it != m_prepared.constEnd())
+        return PQexecPrepared(m_conn, it->constData(), count, pointers.data(), nullptr, nullptr, 0);
+
+    // A statement met again is worth a server-side plan; one-off statements are not.
+    int& seen = m_seen[text];
+    if (++seen >= 2 && m_prepared.size() < MaxPrepared) {
+        const QByteArray name = "qd8_" + QByteArray::number(++m_preparedNames);
+        PGresult* prepared = PQprepare(m_conn, name.constData(), sql.constData(), count, nullptr);
+        const bool ok = PQresultStatus(prepared) == PGRES_COMMAND_OK;
+        PQclear(prepared);
+        if (ok) {
+            m_prepared.insert(text, name);
+            m_seen.remove(text);
+            return PQexecPrepared(m_conn, name.constData(), count, pointers.data(), nullptr, nullptr, 0);
+        }
+    }
+    return PQexecParams(m_conn, sql.constData(), count, nullptr, pointers.data(), nullptr, nullptr, 0);
+}
+
+PGresult* PostgresBackend::run(const QString& sql, const QVariantList& params)
+{
+    const QByteArray utf8 = sql.toUtf8();
+    const bool wasIdle = PQtransactionStatus(m_conn) == PQTRANS_IDLE;
+    PGresult* result = send(utf8, sql, params);
+    ExecStatusType status = PQresultStatus(result);
+    if ((status == PGRES_FATAL_ERROR || !result) && connectionLost(m_conn) && wasIdle) {
+        // The server went away between two operations; outside a transaction nothing was
+        // half-done, so reconnect and run the statement once more.
+        PQclear(result);
+        if (!reconnect())
+            throw DbError(DbError::Kind::Connection,
+                QStringLiteral("The connection to PostgreSQL was lost: %1").arg(QString::fromUtf8(PQerrorMessage(m_conn)).trimmed()), sql);
+        result = send(utf8, sql, params);
+        status = PQresultStatus(result);
+    }
+    if (status != PGRES_TUPLES_OK && status != PGRES_COMMAND_OK) {
+        const char* state = PQresultErrorField(result, PG_DIAG_SQLSTATE);
+        const QString message = QString::fromUtf8(result ? PQresultErrorMessage(result) : PQerrorMessage(m_conn)).trimmed();
+        const bool lost = connectionLost(m_conn);
+        if (state && QByteArrayView(state) == "0A000" && m_prepared.contains(sql))
+            m_prepared.remove(sql);  // plan outdated by a schema change; prepare again next time
+        PQclear(result);
+        throw DbError(lost ? DbError::Kind::Connection : DbError::Kind::Engine, message, sql);
+    }
+    return result;
+}
+
+std::unique_ptr<ResultData> PostgresBackend::query(const QString& sql, const QVariantList& params)
+{
+    return std::make_unique<PostgresResult>(run(sql, params));
+}
+
+qint64 PostgresBackend::execute(const QString& sql, const QVariantList& params)
+{
+    PGresult* result = run(sql, params);
+    const qint64 affected = QByteArray(PQcmdTuples(result)).toLongLong();
+    PQclear(result);
+    return affected;
+}
+
+void PostgresBackend::simple(const char* sql)
+{
+    PQclear(run(QString::fromLatin1(sql), {}));
+}
+
+void PostgresBackend::begin()
+{
+    simple("BEGIN");
+}
+
+void PostgresBackend::commit()
+{
+    simple("COMMIT");
+}
+
+void PostgresBackend::rollback()
+{
+    if (inTransaction())
+        simple("ROLLBACK");
+}
+
+bool PostgresBackend::inTransaction() const
+{
+    const PGTransactionStatusType status = PQtransactionStatus(m_conn);
+    return status == PQTRANS_INTRANS || status == PQTRANS_INERROR || status == PQTRANS_ACTIVE;
+}
+
+QStringList PostgresBackend::primaryKey(const QString& table)
+{
+    if (auto it = m_keys.constFind(table.toLower()); it != m_keys.constEnd())
+        return *it;
+    QStringList keys;
+    const QString sql = QStringLiteral(
+        "SELECT a.attname FROM pg_index i JOIN pg_attribute a ON a.attrelid = i.indrelid AND a.attnum = ANY(i.indkey) "
+        "WHERE i.indrelid = to_regclass($1) AND i.indisprimary ORDER BY array_position(i.indkey::int2[], a.attnum)");
+    auto rows = query(sql, {table});
+    for (qsizetype r = 0; r < rows->rowCount(); ++r)
+        keys << rows->value(r, 0).toString();
+    m_keys.insert(table.toLower(), keys);
+    return keys;
+}
+
+} // namespace qd8

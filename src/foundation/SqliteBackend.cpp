@@ -1,0 +1,383 @@
+#include "foundation/SqliteBackend.h"
+
+#include "foundation/Currency.h"
+#include "foundation/DbError.h"
+#include "foundation/ThaiCollation.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <sqlite3.h>
+
+#include <cstring>
+#include <vector>
+
+namespace qd8 {
+
+namespace {
+
+constexpr qsizetype MaxCachedStatements = 64;
+
+ColumnKind kindOfDeclaredType(const char* declared)
+{
+    if (!declared)
+        return ColumnKind::Auto;
+    const QByteArray t = QByteArray(declared).toUpper();
+    if (t.contains("INT"))
+        return ColumnKind::Integer;
+    if (t.contains("CHAR") || t.contains("TEXT") || t.contains("CLOB"))
+        return ColumnKind::Text;
+    if (t.startsWith("TIMESTAMP") || t.startsWith("DATETIME"))
+        return ColumnKind::DateTime;
+    if (t.startsWith("DATE"))
+        return ColumnKind::Date;
+    if (t.startsWith("MONEY") || t.startsWith("CURRENCY")
+        || ((t.startsWith("NUMERIC") || t.startsWith("DECIMAL")) && t.contains(",4)")))
+        return ColumnKind::Money;
+    if (t.contains("REAL") || t.contains("DOUBLE") || t.contains("FLOAT") || t.startsWith("NUMERIC") || t.startsWith("DECIMAL"))
+        return ColumnKind::Real;
+    if (t.startsWith("BOOL"))
+        return ColumnKind::Bool;
+    if (t.contains("BLOB"))
+        return ColumnKind::Blob;
+    return ColumnKind::Auto;
+}
+
+QVariant integerVariant(qint64 v)
+{
+    return v >= INT32_MIN && v <= INT32_MAX ? QVariant(int(v)) : QVariant(qlonglong(v));
+}
+
+// Rows packed into one byte arena: a cell is its storage class, offset and size.
+// Text stays UTF-8 until a cell is read.
+class SqliteResult final : public ResultData {
+public:
+    struct Cell {
+        quint64 offset;
+        quint32 size;
+        quint8 type;  // SQLITE_INTEGER, SQLITE_FLOAT, SQLITE_TEXT, SQLITE_BLOB, SQLITE_NULL
+    };
+
+    explicit SqliteResult(sqlite3_stmt* stmt)
+    {
+        const int count = sqlite3_column_count(stmt);
+        m_columns.reserve(count);
+        for (int c = 0; c < count; ++c)
+            m_columns.append({QString::fromUtf8(sqlite3_column_name(stmt, c)), kindOfDeclaredType(sqlite3_column_decltype(stmt, c))});
+    }
+
+    void append(sqlite3_stmt* stmt)
+    {
+        const int count = int(m_columns.size());
+        for (int c = 0; c < count; ++c) {
+            const int type = sqlite3_column_type(stmt, c);
+            Cell cell{quint64(m_arena.size()), 0, quint8(type)};
+            switch (type) {
+            case SQLITE_INTEGER: {
+                const sqlite3_int64 v = sqlite3_column_int64(stmt, c);
+                m_arena.append(reinterpret_cast<const char*>(&v), sizeof v);
+                cell.size = sizeof v;
+                break;
+            }
+            case SQLITE_FLOAT: {
+                const double v = sqlite3_column_double(stmt, c);
+                m_arena.append(reinterpret_cast<const char*>(&v), sizeof v);
+                cell.size = sizeof v;
+                break;
+            }
+            case SQLITE_TEXT: {
+                const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(stmt, c));
+                cell.size = quint32(sqlite3_column_bytes(stmt, c));
+                m_arena.append(text, cell.size);
+                break;
+            }
+            case SQLITE_BLOB: {
+                const void* blob = sqlite3_column_blob(stmt, c);
+                cell.size = quint32(sqlite3_column_bytes(stmt, c));
+                m_arena.append(static_cast<const char*>(blob), cell.size);
+                break;
+            }
+            default:
+                break;
+            }
+            m_cells.push_back(cell);
+        }
+    }
+
+    qsizetype rowCount() const override
+    {
+        return m_columns.isEmpty() ? 0 : qsizetype(m_cells.size()) / m_columns.size();
+    }
+
+    QVariant value(qsizetype row, int column) const override
+    {
+        const Cell& cell = m_cells[size_t(row * m_columns.size() + column)];
+        const char* data = m_arena.constData() + cell.offset;
+        const ColumnKind kind = m_columns[column].kind;
+        switch (cell.type) {
+        case SQLITE_INTEGER: {
+            sqlite3_int64 v;
+            std::memcpy(&v, data, sizeof v);
+            if (kind == ColumnKind::Money)
+                return QVariant::fromValue(Currency::fromInt(v));
+            if (kind == ColumnKind::Bool)
+                return QVariant(v != 0);
+            return integerVariant(v);
+        }
+        case SQLITE_FLOAT: {
+            double v;
+            std::memcpy(&v, data, sizeof v);
+            // SQLite keeps NUMERIC as REAL: exact to 15 significant digits.
+            return kind == ColumnKind::Money ? QVariant::fromValue(Currency::fromDouble(v)) : QVariant(v);
+        }
+        case SQLITE_TEXT:
+            return textValue(data, cell.size, kind);
+        case SQLITE_BLOB:
+            return QByteArray(data, cell.size);
+        default:
+            return {};
+        }
+    }
+
+private:
+    static QVariant textValue(const char* data, quint32 size, ColumnKind kind)
+    {
+        switch (kind) {
+        case ColumnKind::Date: {
+            const QDate d = QDate::fromString(QLatin1String(data, qMin<quint32>(size, 10)), Qt::ISODate);
+            if (d.isValid())
+                return d;
+            break;
+        }
+        case ColumnKind::DateTime: {
+            QDateTime dt = QDateTime::fromString(QString::fromLatin1(data, size).replace(QLatin1Char('T'), QLatin1Char(' ')),
+                size > 19 ? QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz") : QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+            if (!dt.isValid() && size == 10)
+                dt = QDate::fromString(QLatin1String(data, size), Qt::ISODate).startOfDay();
+            if (dt.isValid())
+                return dt;
+            break;
+        }
+        case ColumnKind::Money:
+            if (auto c = Currency::parse(data, size))
+                return QVariant::fromValue(*c);
+            break;
+        default:
+            break;
+        }
+        return QString::fromUtf8(data, size);
+    }
+
+    QByteArray m_arena;
+    std::vector<Cell> m_cells;
+};
+
+void bind(sqlite3_stmt* stmt, int index, const QVariant& v)
+{
+    if (v.isNull()) {
+        sqlite3_bind_null(stmt, index);
+        return;
+    }
+    switch (v.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Short:
+        sqlite3_bind_int64(stmt, index, v.toLongLong());
+        return;
+    case QMetaType::Double:
+    case QMetaType::Float:
+        sqlite3_bind_double(stmt, index, v.toDouble());
+        return;
+    case QMetaType::QDate:
+        sqlite3_bind_text(stmt, index, v.toDate().toString(Qt::ISODate).toUtf8().constData(), -1, SQLITE_TRANSIENT);
+        return;
+    case QMetaType::QDateTime:
+        sqlite3_bind_text(stmt, index, v.toDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toUtf8().constData(), -1, SQLITE_TRANSIENT);
+        return;
+    case QMetaType::QByteArray: {
+        const QByteArray b = v.toByteArray();
+        sqlite3_bind_blob(stmt, index, b.constData(), int(b.size()), SQLITE_TRANSIENT);
+        return;
+    }
+    default:
+        break;
+    }
+    if (v.typeId() == qMetaTypeId<Currency>()) {
+        // Whole amounts stay INTEGER; others are stored as REAL by the NUMERIC affinity.
+        const Currency c = v.value<Currency>();
+        if (c.raw() % Currency::Scale == 0)
+            sqlite3_bind_int64(stmt, index, c.raw() / Currency::Scale);
+        else
+            sqlite3_bind_text(stmt, index, c.toFixedString().toLatin1().constData(), -1, SQLITE_TRANSIENT);
+        return;
+    }
+    const QByteArray utf8 = v.toString().toUtf8();
+    sqlite3_bind_text(stmt, index, utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
+}
+
+} // namespace
+
+SqliteBackend::SqliteBackend(const ConnectionString& cs)
+{
+    const QByteArray file = cs.sqliteFile().toUtf8();
+    const bool readOnly = cs.value({"mode"}).compare(QLatin1String("ReadOnly"), Qt::CaseInsensitive) == 0;
+    const bool create = cs.value({"create"}).compare(QLatin1String("yes"), Qt::CaseInsensitive) == 0
+        || cs.value({"create"}) == QLatin1String("1");
+    const int flags = (readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | (create ? SQLITE_OPEN_CREATE : 0))
+        | SQLITE_OPEN_NOMUTEX;
+    if (sqlite3_open_v2(file.constData(), &m_db, flags, nullptr) != SQLITE_OK) {
+        const QString message = m_db ? QString::fromUtf8(sqlite3_errmsg(m_db)) : QStringLiteral("out of memory");
+        sqlite3_close_v2(m_db);
+        m_db = nullptr;
+        throw DbError(DbError::Kind::Connection,
+            QStringLiteral("Cannot open the database file \"%1\": %2").arg(cs.sqliteFile(), message));
+    }
+    sqlite3_busy_timeout(m_db, BusyTimeoutMs);
+    sqlite3_extended_result_codes(m_db, 1);
+    if (registerThaiCollation(m_db) != SQLITE_OK) {
+        sqlite3_close_v2(m_db);
+        m_db = nullptr;
+        throw DbError(DbError::Kind::Connection, QStringLiteral("Cannot register the THAI collation (ICU th_TH missing)"));
+    }
+    if (!readOnly) {
+        try {
+            run("PRAGMA journal_mode=WAL");
+            run("PRAGMA synchronous=NORMAL");
+        } catch (...) {
+            sqlite3_close_v2(m_db);
+            m_db = nullptr;
+            throw;
+        }
+    }
+}
+
+SqliteBackend::~SqliteBackend()
+{
+    for (sqlite3_stmt* stmt : std::as_const(m_cache))
+        sqlite3_finalize(stmt);
+    sqlite3_close_v2(m_db);
+}
+
+void SqliteBackend::fail(const QString& sql) const
+{
+    const int code = sqlite3_extended_errcode(m_db);
+    const auto kind = (code & 0xff) == SQLITE_CANTOPEN || (code & 0xff) == SQLITE_NOTADB ? DbError::Kind::Connection
+                                                                                          : DbError::Kind::Engine;
+    throw DbError(kind, QString::fromUtf8(sqlite3_errmsg(m_db)), sql);
+}
+
+void SqliteBackend::run(const char* sql)
+{
+    char* error = nullptr;
+    if (sqlite3_exec(m_db, sql, nullptr, nullptr, &error) != SQLITE_OK) {
+        const QString message = QString::fromUtf8(error ? error : sqlite3_errmsg(m_db));
+        sqlite3_free(error);
+        throw DbError(DbError::Kind::Engine, message, QString::fromUtf8(sql));
+    }
+}
+
+sqlite3_stmt* SqliteBackend::prepare(const QString& sql, const QVariantList& params)
+{
+    sqlite3_stmt* stmt = m_cache.value(sql);
+    if (!stmt) {
+        const QByteArray utf8 = sql.toUtf8();
+        const char* tail = nullptr;
+        if (sqlite3_prepare_v3(m_db, utf8.constData(), int(utf8.size()), SQLITE_PREPARE_PERSISTENT, &stmt, &tail) != SQLITE_OK)
+            fail(sql);
+        if (!stmt)
+            throw DbError(DbError::Kind::Usage, QStringLiteral("The statement is empty"), sql);
+        for (; tail && *tail; ++tail) {
+            if (*tail != ' ' && *tail != '\n' && *tail != '\r' && *tail != '\t' && *tail != ';') {
+                sqlite3_finalize(stmt);
+                throw DbError(DbError::Kind::Usage, QStringLiteral("Only one statement may run at a time"), sql);
+            }
+        }
+        if (m_cache.size() >= MaxCachedStatements) {
+            for (sqlite3_stmt* old : std::as_const(m_cache))
+                sqlite3_finalize(old);
+            m_cache.clear();
+        }
+        m_cache.insert(sql, stmt);
+    }
+    if (params.size() != sqlite3_bind_parameter_count(stmt))
+        throw DbError(DbError::Kind::Usage,
+            QStringLiteral("The statement takes %1 parameters, %2 given").arg(sqlite3_bind_parameter_count(stmt)).arg(params.size()), sql);
+    for (int i = 0; i < params.size(); ++i)
+        bind(stmt, i + 1, params[i]);
+    return stmt;
+}
+
+void SqliteBackend::finish(sqlite3_stmt* stmt, const QString&)
+{
+    sqlite3_reset(stmt);
+    sqlite3_clear_bindings(stmt);
+}
+
+std::unique_ptr<ResultData> SqliteBackend::query(const QString& sql, const QVariantList& params)
+{
+    sqlite3_stmt* stmt = prepare(sql, params);
+    auto result = std::make_unique<SqliteResult>(stmt);
+    int rc;
+    while ((rc = sqlite3_step(stmt)) == SQLITE_ROW)
+        result->append(stmt);
+    if (rc != SQLITE_DONE) {
+        sqlite3_reset(stmt);
+        fail(sql);
+    }
+    finish(stmt, sql);
+    return result;
+}
+
+qint64 SqliteBackend::execute(const QString& sql, const QVariantList& params)
+{
+    sqlite3_stmt* stmt = prepare(sql, params);
+    int rc;
+    while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
+    }
+    if (rc != SQLITE_DONE) {
+        sqlite3_reset(stmt);
+        fail(sql);
+    }
+    finish(stmt, sql);
+    return sqlite3_changes64(m_db);
+}
+
+void SqliteBackend::begin()
+{
+    // IMMEDIATE takes the write lock now, so two writers queue on the busy timeout instead
+    // of failing half-way through.
+    run("BEGIN IMMEDIATE");
+}
+
+void SqliteBackend::commit()
+{
+    run("COMMIT");
+}
+
+void SqliteBackend::rollback()
+{
+    if (!sqlite3_get_autocommit(m_db))
+        run("ROLLBACK");
+}
+
+bool SqliteBackend::inTransaction() const
+{
+    return m_db && !sqlite3_get_autocommit(m_db);
+}
+
+QStringList SqliteBackend::primaryKey(const QString& table)
+{
+    if (auto it = m_keys.constFind(table.toLower()); it != m_keys.constEnd())
+        return *it;
+    QStringList keys;
+    const QString sql = QStringLiteral("SELECT name FROM pragma_table_info(?) WHERE pk > 0 ORDER BY pk");
+    auto rows = query(sql, {table});
+    for (qsizetype r = 0; r < rows->rowCount(); ++r)
+        keys << rows->value(r, 0).toString();
+    m_keys.insert(table.toLower(), keys);
+    return keys;
+}
+
+} // namespace qd8

@@ -1,0 +1,163 @@
+#include "SampleTable.h"
+
+#include "foundation/Connection.h"
+#include "foundation/DbError.h"
+#include "foundation/Recordset.h"
+#include "foundation/SqlTrace.h"
+#include "foundation/Values.h"
+
+#include <QDate>
+
+using namespace qd8;
+using namespace qd8::test;
+
+namespace {
+
+class ConnectionTest : public SampleTableTest {
+protected:
+    QStringList column(const Sql& sql, const QString& field)
+    {
+        Connection connection;
+        connection.open(db->connectionString());
+        Recordset rs;
+        rs.open(sql, connection);
+        QStringList values;
+        for (; !rs.eof(); rs.moveNext())
+            values << rs.text(field);
+        return values;
+    }
+    qint64 count() { return column("SELECT COUNT(*) AS N FROM QD8TSample", QStringLiteral("N")).value(0).toLongLong(); }
+};
+
+TEST_P(ConnectionTest, NullStaysDistinctFromEmptyText)
+{
+    Connection connection;
+    connection.open(db->connectionString());
+    Recordset rs;
+    rs.open("SELECT * FROM QD8TSample WHERE TSmpID=6", connection);
+    ASSERT_FALSE(rs.eof());
+    EXPECT_FALSE(rs.field("TSmpCode").isNull());
+    EXPECT_EQ(rs.field("TSmpCode").toString(), QString(""));
+    EXPECT_TRUE(rs.field("TSmpName").isNull());
+    EXPECT_TRUE(rs.field("TSmpAmount").isNull());
+    EXPECT_TRUE(rs.field("TSmpDate").isNull());
+    EXPECT_EQ(rs.text("TSmpName"), QString(""));
+}
+
+TEST_P(ConnectionTest, FieldsAreFoundByNameWhateverTheCase)
+{
+    Connection connection;
+    connection.open(db->connectionString());
+    Recordset rs;
+    rs.open("SELECT TSmpCode, TSmpName FROM QD8TSample WHERE TSmpID=3", connection);
+    for (const char* name : {"TSmpCode", "tsmpcode", "TSMPCODE", "TsMpCoDe"})
+        EXPECT_EQ(rs.text(QString::fromLatin1(name)), QStringLiteral("C")) << name;
+    EXPECT_EQ(rs.text("tsmpNAME"), QStringLiteral("แกง"));
+    EXPECT_EQ(rs.fieldIndex("nosuchfield"), -1);
+    EXPECT_THROW(rs.field("nosuchfield"), DbError);
+    rs.moveNext();
+    EXPECT_TRUE(rs.eof());
+    EXPECT_THROW(rs.field("TSmpCode"), DbError);
+}
+
+TEST_P(ConnectionTest, DateMarkersSelectTheRowsOfTheRangeAndTheTraceShowsBothTexts)
+{
+    SqlTrace::Recorder trace;
+    const Sql sql = Sql("SELECT TSmpID FROM QD8TSample WHERE TSmpDate>=") + dateMarker(QDate(2026, 1, 31))
+        + " AND TSmpDate<=#$2026-02-28#$ ORDER BY TSmpID";
+    EXPECT_EQ(column(sql, QStringLiteral("TSmpID")), QStringList({"2", "3", "4"}));
+    ASSERT_EQ(trace.entries().size(), 1);
+    EXPECT_EQ(trace.entries()[0].composed,
+        QStringLiteral("SELECT TSmpID FROM QD8TSample WHERE TSmpDate>=#$2026-01-31#$ AND TSmpDate<=#$2026-02-28#$ ORDER BY TSmpID"));
+    EXPECT_EQ(trace.entries()[0].sent, engine() == Engine::PostgreSQL
+        ? QStringLiteral("SELECT TSmpID FROM QD8TSample WHERE TSmpDate>=DATE '2026-01-31' AND TSmpDate<=DATE '2026-02-28' ORDER BY TSmpID")
+        : QStringLiteral("SELECT TSmpID FROM QD8TSample WHERE TSmpDate>='2026-01-31' AND TSmpDate<='2026-02-28' ORDER BY TSmpID"));
+    EXPECT_EQ(trace.entries()[0].connection, db->connectionString());
+}
+
+TEST_P(ConnectionTest, AValueHoldingAQuoteIsRefusedBeforeItReachesTheDatabase)
+{
+    SqlTrace::Recorder trace;
+    Connection connection;
+    connection.open(db->connectionString());
+    const Sql injected = Sql("DELETE FROM QD8TSample WHERE TSmpCode=") + quoted(QStringLiteral("x' OR '1'='1"));
+    try {
+        connection.execute(injected);
+        FAIL() << "the statement ran";
+    } catch (const DbError& e) {
+        EXPECT_EQ(e.kind(), DbError::Kind::Refused);
+        EXPECT_TRUE(e.message().contains(QStringLiteral("x' OR '1'='1")));
+        EXPECT_EQ(e.statement(), QStringLiteral("DELETE FROM QD8TSample WHERE TSmpCode='x' OR '1'='1'"));
+    }
+    Recordset rs;
+    EXPECT_THROW(rs.open(Sql("SELECT * FROM QD8TSample WHERE TSmpName=") + quoted("it's"), connection), DbError);
+    ASSERT_EQ(trace.entries().size(), 2);
+    EXPECT_TRUE(trace.entries()[0].refused);
+    EXPECT_TRUE(trace.entries()[0].sent.isEmpty());
+    EXPECT_EQ(count(), 6);
+}
+
+TEST_P(ConnectionTest, ExecuteReturnsTheRowsAffected)
+{
+    Connection connection;
+    connection.open(db->connectionString());
+    EXPECT_EQ(connection.execute("UPDATE QD8TSample SET TSmpCode='X' WHERE TSmpFlag1=1"), 4);
+    EXPECT_EQ(connection.execute("DELETE FROM QD8TSample WHERE TSmpID=99"), 0);
+    EXPECT_EQ(connection.execute("DELETE FROM QD8TSample WHERE TSmpFlag1 IS NULL OR TSmpFlag1=0"), 2);
+}
+
+TEST_P(ConnectionTest, AFailedStatementInATransactionLeavesNothingWritten)
+{
+    Connection connection;
+    connection.open(db->connectionString());
+    connection.beginTrans();
+    connection.execute("INSERT INTO QD8TSample (TSmpID, TSmpCode) VALUES (7, 'F')");
+    EXPECT_THROW(connection.execute("INSERT INTO QD8TSample (TSmpID, TSmpCode) VALUES (1, 'dup')"), DbError);
+    connection.rollbackTrans();
+    EXPECT_EQ(count(), 6);
+
+    // A connection closed (given back to the pool) inside a transaction is rolled back,
+    // and the next user of the pooled connection starts outside any transaction.
+    connection.beginTrans();
+    connection.execute("INSERT INTO QD8TSample (TSmpID, TSmpCode) VALUES (8, 'G')");
+    connection.close();
+    Connection next;
+    next.open(db->connectionString());
+    EXPECT_FALSE(next.inTransaction());
+    EXPECT_EQ(count(), 6);
+}
+
+TEST_P(ConnectionTest, ThaiNamesSortInDictionaryOrder)
+{
+    EXPECT_EQ(column("SELECT TSmpName FROM QD8TSample WHERE TSmpName IS NOT NULL ORDER BY TSmpName", QStringLiteral("TSmpName")),
+        QStringList({"กา", "เก", "แกง", "ไก่", "ขา"}));
+}
+
+TEST_P(ConnectionTest, MoneyAndDatesComeBackAsTheirOwnTypes)
+{
+    Connection connection;
+    connection.open(db->connectionString());
+    Recordset rs;
+    rs.open("SELECT TSmpAmount, TSmpDate FROM QD8TSample ORDER BY TSmpID", connection);
+    const QStringList expected = {"10.5", "0.0001", "99999999999.9999", "-2.25", "0"};
+    for (const QString& amount : expected) {
+        ASSERT_EQ(rs.field("TSmpAmount").typeId(), qMetaTypeId<Currency>());
+        EXPECT_EQ(rs.currency("TSmpAmount").toString(), amount);
+        EXPECT_EQ(rs.field("TSmpDate").typeId(), QMetaType::QDate);
+        rs.moveNext();
+    }
+    if (engine() != Engine::PostgreSQL)
+        return;
+    // numeric is exact on PostgreSQL: the largest amounts and sums of many of them.
+    connection.execute("UPDATE QD8TSample SET TSmpAmount=1234567890123.4567 WHERE TSmpID=1");
+    connection.execute("INSERT INTO QD8TSample (TSmpID, TSmpAmount) SELECT 100 + g, 0.0001 * g FROM generate_series(1, 20000) g");
+    rs.open("SELECT TSmpAmount FROM QD8TSample WHERE TSmpID=1", connection);
+    EXPECT_EQ(rs.currency("TSmpAmount").toString(), QStringLiteral("1234567890123.4567"));
+    rs.open("SELECT SUM(TSmpAmount) AS Total FROM QD8TSample WHERE TSmpID > 100", connection);
+    EXPECT_EQ(rs.field("Total").typeId(), qMetaTypeId<Currency>());
+    EXPECT_EQ(rs.currency("Total").toString(), QStringLiteral("20001"));  // 0.0001 * (20000 * 20001 / 2)
+}
+
+QD8_ON_BOTH_ENGINES(ConnectionTest);
+
+} // namespace

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "database/Schema.h"
+#include "foundation/ConnectionString.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace qd8::test {
+
+// A throwaway database on one engine: a SQLite file in a temporary folder, or a fresh
+// PostgreSQL database on the server of the PG* variables (pg_virtualenv). Dropped on
+// destruction.
+class ScratchDatabase {
+public:
+    // `fileName` names the SQLite file and (literally) the PostgreSQL database, so
+    // "QD8Command.dat" / "QD8Center.dat" pairs work on both engines.
+    explicit ScratchDatabase(Engine engine, const QString& fileName = QStringLiteral("QD8Data.dat"), QTemporaryDir* folder = nullptr);
+    ~ScratchDatabase();
+
+    Engine engine() const { return m_engine; }
+    const QString& connectionString() const { return m_connectionString; }
+    void createSchema(DatabaseRole role) const;
+    void run(const QStringList& statements) const;
+
+    static bool postgresAvailable();
+    // Connection string of the server's maintenance database.
+    static QString postgresAdminConnectionString();
+
+private:
+    Engine m_engine;
+    QString m_name;
+    QString m_connectionString;
+    std::unique_ptr<QTemporaryDir> m_ownFolder;
+};
+
+// Base of the tests that run once per engine; skips PostgreSQL when no server is given.
+class EngineTest : public testing::TestWithParam<Engine> {
+protected:
+    void SetUp() override;
+    Engine engine() const { return GetParam(); }
+};
+
+std::string engineName(const testing::TestParamInfo<Engine>& info);
+
+} // namespace qd8::test
+
+#define QD8_ON_BOTH_ENGINES(Suite) \
+    INSTANTIATE_TEST_SUITE_P(Engines, Suite, testing::Values(qd8::Engine::SQLite, qd8::Engine::PostgreSQL), qd8::test::engineName)
