@@ -1,9 +1,11 @@
 #include "foundation/QtSqlBackend.h"
 
+#include "foundation/ConnectionPool.h"
 #include "foundation/Currency.h"
 #include "foundation/DbError.h"
 
 #include <QAtomicInt>
+#include <QCoreApplication>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlField>
@@ -76,6 +78,10 @@ QSqlQuery run(const QString& name, const QString& sql, const QVariantList& param
 QtSqlBackend::QtSqlBackend(const ConnectionString& cs)
     : m_name(QStringLiteral("qd8-%1").arg(connectionCounter.fetchAndAddRelaxed(1)))
 {
+    // Qt SQL's registry of connections dies with the application object: pooled Qt SQL
+    // connections must be closed before it, not at the end of the program.
+    static const bool closeWithApplication = (qAddPostRoutine([] { ConnectionPool::instance().clear(); }), true);
+    Q_UNUSED(closeWithApplication);
     QSqlDatabase db = QSqlDatabase::addDatabase(cs.qtDriver(), m_name);
     if (!db.isValid()) {
         QSqlDatabase::removeDatabase(m_name);

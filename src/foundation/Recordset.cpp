@@ -54,6 +54,7 @@ void Recordset::close()
     m_updatable = false;
     m_index.clear();
     m_lowerIndex.clear();
+    m_spellings.clear();
     m_position = 0;
     m_changed.clear();
     m_added.clear();
@@ -121,7 +122,13 @@ int Recordset::fieldIndex(const QString& name) const
 {
     if (auto it = m_index.constFind(name); it != m_index.constEnd())
         return *it;
-    return m_lowerIndex.value(name.toLower(), -1);
+    // Controls spell a field the same way on every row: remember each spelling once.
+    if (auto it = m_spellings.constFind(name); it != m_spellings.constEnd())
+        return *it;
+    const int index = m_lowerIndex.value(name.toLower(), -1);
+    if (index >= 0)
+        m_spellings.insert(name, index);
+    return index;
 }
 
 int Recordset::requireField(const QString& name) const

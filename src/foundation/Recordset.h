@@ -83,6 +83,7 @@ private:
     bool m_updatable = false;
     QHash<QString, int> m_index;       // exact names
     QHash<QString, int> m_lowerIndex;  // lower-cased names
+    mutable QHash<QString, int> m_spellings;  // other spellings already looked up
     qsizetype m_position = 0;
     // Rows written through this recordset: overrides of read rows, and added rows.
     QHash<qsizetype, QVariantList> m_changed;

@@ -1,0 +1,100 @@
+#include "BenchSupport.h"
+
+#include "foundation/Connection.h"
+#include "foundation/ConnectionPool.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <map>
+
+namespace qd8::bench {
+
+std::unique_ptr<BenchDatabase> BenchDatabase::sqlite()
+{
+    auto db = std::make_unique<BenchDatabase>();
+    QTemporaryDir dir;
+    dir.setAutoRemove(false);
+    db->m_folder = dir.path();
+    db->m_name = dir.filePath(QStringLiteral("bench.dat"));
+    db->m_connectionString = QStringLiteral("Driver=SQLite;Data Source=") + db->m_name;
+    Connection create;
+    create.open(db->m_connectionString + QStringLiteral(";Create=yes"));
+    return db;
+}
+
+std::unique_ptr<BenchDatabase> BenchDatabase::postgres()
+{
+    if (qEnvironmentVariableIsEmpty("PGHOST") && qEnvironmentVariableIsEmpty("PGPORT"))
+        return nullptr;
+    auto db = std::make_unique<BenchDatabase>();
+    db->m_postgres = true;
+    db->m_name = QStringLiteral("bench_%1").arg(QCoreApplication::applicationPid());
+    db->m_connectionString = QStringLiteral("Driver=PostgreSQL;Database=") + db->m_name;
+    Connection admin;
+    admin.open(QStringLiteral("Driver=PostgreSQL;Database=postgres"));
+    admin.execute(Sql(QStringLiteral("DROP DATABASE IF EXISTS ") + db->m_name));
+    admin.execute(Sql(QStringLiteral("CREATE DATABASE ") + db->m_name + QStringLiteral(" TEMPLATE template0 ENCODING 'UTF8'")));
+    Connection fresh;
+    fresh.open(db->m_connectionString);
+    fresh.execute("CREATE COLLATION IF NOT EXISTS thai (provider = icu, locale = 'th-TH')");
+    return db;
+}
+
+BenchDatabase::~BenchDatabase()
+{
+    ConnectionPool::instance().clear();
+    if (m_postgres) {
+        Connection admin;
+        admin.open(QStringLiteral("Driver=PostgreSQL;Database=postgres"));
+        admin.execute(Sql(QStringLiteral("DROP DATABASE IF EXISTS ") + m_name + QStringLiteral(" WITH (FORCE)")));
+    } else if (!m_folder.isEmpty()) {
+        QDir(m_folder).removeRecursively();
+    }
+}
+
+namespace {
+
+class Collector : public benchmark::ConsoleReporter {
+public:
+    std::map<std::string, double> milliseconds;
+    void ReportRuns(const std::vector<Run>& runs) override
+    {
+        // The fastest repetition: the least disturbed by whatever else the machine is doing.
+        for (const Run& run : runs) {
+            if (run.error_occurred || run.run_type != Run::RT_Iteration)
+                continue;
+            const double ms = run.GetAdjustedRealTime() * 1e3 / benchmark::GetTimeUnitMultiplier(run.time_unit);
+            auto [it, inserted] = milliseconds.emplace(run.run_name.function_name, ms);
+            if (!inserted && ms < it->second)
+                it->second = ms;
+        }
+        ConsoleReporter::ReportRuns(runs);
+    }
+};
+
+} // namespace
+
+int runAndReport(int argc, char** argv, const std::vector<Ratio>& ratios)
+{
+    benchmark::Initialize(&argc, argv);
+    Collector collector;
+    benchmark::RunSpecifiedBenchmarks(&collector);
+    std::printf("\n");
+    for (const Ratio& r : ratios) {
+        const auto ours = collector.milliseconds.find(r.ours.toStdString());
+        const auto floor = collector.milliseconds.find(r.floor.toStdString());
+        if (ours == collector.milliseconds.end() || floor == collector.milliseconds.end()) {
+            std::printf("%s: not measured\n", qPrintable(r.title));
+            continue;
+        }
+        const double ratio = ours->second / floor->second;
+        std::printf("%s: ours %.2f ms, floor %.2f ms, ratio %.2f (target <= %.1f)%s\n", qPrintable(r.title), ours->second,
+            floor->second, ratio, r.target, ratio <= r.target ? "" : "  OVER TARGET");
+    }
+    benchmark::Shutdown();
+    return 0;
+}
+
+} // namespace qd8::bench

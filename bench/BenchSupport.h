@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+#include <benchmark/benchmark.h>
+#include <functional>
+#include <memory>
+
+namespace qd8::bench {
+
+// A benchmark database that lives for the run: a SQLite file in a temporary folder, or a
+// scratch PostgreSQL database on the server of the PG* variables (skipped without one).
+class BenchDatabase {
+public:
+    static std::unique_ptr<BenchDatabase> sqlite();
+    static std::unique_ptr<BenchDatabase> postgres();  // null without a server
+    ~BenchDatabase();
+    const QString& connectionString() const { return m_connectionString; }
+    const QString& name() const { return m_name; }
+    bool isPostgres() const { return m_postgres; }
+
+private:
+    QString m_connectionString;
+    QString m_name;
+    QString m_folder;
+    bool m_postgres = false;
+};
+
+// A measured figure against its floor.
+struct Ratio {
+    QString title;
+    QString ours;
+    QString floor;
+    double target;
+};
+
+// Runs the registered benchmarks (give them Repetitions: the fastest counts), then prints
+// one line per ratio:
+//   title: ours 12.3 ms, floor 10.1 ms, ratio 1.22 (target <= 2.0)
+int runAndReport(int argc, char** argv, const std::vector<Ratio>& ratios);
+
+} // namespace qd8::bench

@@ -1,0 +1,132 @@
+// A static recordset reading 100,000 rows x 12 columns (text, dates, integers, Thai names,
+// money), against the engine's own C library reading the same rows into QStrings.
+#include "BenchSupport.h"
+
+#include "foundation/Connection.h"
+#include "foundation/Recordset.h"
+
+#include <QCoreApplication>
+#include <QList>
+#include <libpq-fe.h>
+#include <sqlite3.h>
+
+using namespace qd8;
+using namespace qd8::bench;
+
+namespace {
+
+constexpr int Rows = 100000;
+const char* const Select = "SELECT * FROM QD8TBenchDoc";
+std::unique_ptr<BenchDatabase> sqliteDb, postgresDb;
+
+void fill(const BenchDatabase& db)
+{
+    Connection c;
+    c.open(db.connectionString());
+    c.execute("CREATE TABLE QD8TBenchDoc (TBdID INTEGER PRIMARY KEY, TBdCode VARCHAR(20), TBdName VARCHAR(100) COLLATE THAI, "
+              "TBdName2 VARCHAR(100), TBdDate DATE, TBdDueDate DATE, TBdQty INTEGER, TBdStatus INTEGER, "
+              "TBdAmount NUMERIC(19,4), TBdVat NUMERIC(19,4), TBdRemark VARCHAR(200), TBdFlag1 INTEGER)");
+    const QString rows = db.isPostgres()
+        ? QStringLiteral("SELECT n, 'INV' || n, 'ลูกค้า บริษัท ไทยรุ่งเรือง ' || n, 'Customer Thai Rung Ruang ' || n, "
+                         "DATE '2026-01-01' + (n % 365), DATE '2026-02-01' + (n % 365), n % 97, n % 11, "
+                         "(n * 12.3456)::numeric(19,4), (n * 0.8642)::numeric(19,4), 'หมายเหตุ ' || n, 1 "
+                         "FROM generate_series(1, %1) AS g(n)")
+        : QStringLiteral("WITH RECURSIVE g(n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM g WHERE n < %1) "
+                         "SELECT n, 'INV' || n, 'ลูกค้า บริษัท ไทยรุ่งเรือง ' || n, 'Customer Thai Rung Ruang ' || n, "
+                         "date('2026-01-01', '+' || (n % 365) || ' days'), date('2026-02-01', '+' || (n % 365) || ' days'), "
+                         "n % 97, n % 11, round(n * 12.3456, 4), round(n * 0.8642, 4), 'หมายเหตุ ' || n, 1 FROM g");
+    c.execute(Sql(QStringLiteral("INSERT INTO QD8TBenchDoc ") + rows.arg(Rows)));
+}
+
+void recordsetByIndex(benchmark::State& state, const BenchDatabase* db)
+{
+    Connection c;
+    c.open(db->connectionString());
+    for (auto _ : state) {
+        Recordset rs;
+        rs.open(Select, c);
+        const int fields = rs.fieldCount();
+        for (; !rs.eof(); rs.moveNext())
+            for (int f = 0; f < fields; ++f)
+                benchmark::DoNotOptimize(rs.field(f));
+    }
+}
+
+void recordsetByName(benchmark::State& state, const BenchDatabase* db)
+{
+    const QStringList names = {"TBdID", "TBdCode", "TBdName", "TBdName2", "TBdDate", "TBdDueDate", "TBdQty", "TBdStatus",
+                               "TBdAmount", "TBdVat", "TBdRemark", "TBdFlag1"};
+    Connection c;
+    c.open(db->connectionString());
+    for (auto _ : state) {
+        Recordset rs;
+        rs.open(Select, c);
+        for (; !rs.eof(); rs.moveNext())
+            for (const QString& name : names)
+                benchmark::DoNotOptimize(rs.field(name));
+    }
+}
+
+void rawSqlite(benchmark::State& state, const BenchDatabase* db)
+{
+    sqlite3* handle = nullptr;
+    sqlite3_open_v2(db->name().toUtf8().constData(), &handle, SQLITE_OPEN_READONLY, nullptr);
+    for (auto _ : state) {
+        sqlite3_stmt* stmt = nullptr;
+        sqlite3_prepare_v2(handle, Select, -1, &stmt, nullptr);
+        const int columns = sqlite3_column_count(stmt);
+        QList<QString> cells;
+        cells.reserve(Rows * columns);
+        while (sqlite3_step(stmt) == SQLITE_ROW)
+            for (int c = 0; c < columns; ++c)
+                cells.append(QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, c)), sqlite3_column_bytes(stmt, c)));
+        sqlite3_finalize(stmt);
+        benchmark::DoNotOptimize(cells.size());
+    }
+    sqlite3_close(handle);
+}
+
+void rawLibpq(benchmark::State& state, const BenchDatabase* db)
+{
+    PGconn* conn = PQconnectdb(("dbname=" + db->name()).toUtf8().constData());
+    for (auto _ : state) {
+        PGresult* result = PQexec(conn, Select);
+        const int rows = PQntuples(result), columns = PQnfields(result);
+        QList<QString> cells;
+        cells.reserve(rows * columns);
+        for (int r = 0; r < rows; ++r)
+            for (int c = 0; c < columns; ++c)
+                cells.append(QString::fromUtf8(PQgetvalue(result, r, c), PQgetlength(result, r, c)));
+        PQclear(result);
+        benchmark::DoNotOptimize(cells.size());
+    }
+    PQfinish(conn);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    std::vector<Ratio> ratios;
+    sqliteDb = BenchDatabase::sqlite();
+    fill(*sqliteDb);
+    benchmark::RegisterBenchmark("sqlite/raw_c_api", rawSqlite, sqliteDb.get())->Unit(benchmark::kMillisecond)->Repetitions(3);
+    benchmark::RegisterBenchmark("sqlite/recordset", recordsetByIndex, sqliteDb.get())->Unit(benchmark::kMillisecond)->Repetitions(3);
+    benchmark::RegisterBenchmark("sqlite/recordset_by_name", recordsetByName, sqliteDb.get())->Unit(benchmark::kMillisecond)->Repetitions(3);
+    ratios.push_back({"SQLite, static recordset 100000 x 12", "sqlite/recordset", "sqlite/raw_c_api", 2.0});
+    ratios.push_back({"SQLite, same, fields by name", "sqlite/recordset_by_name", "sqlite/raw_c_api", 2.0});
+    postgresDb = BenchDatabase::postgres();
+    if (postgresDb) {
+        fill(*postgresDb);
+        benchmark::RegisterBenchmark("postgres/raw_libpq", rawLibpq, postgresDb.get())->Unit(benchmark::kMillisecond)->Repetitions(3);
+        benchmark::RegisterBenchmark("postgres/recordset", recordsetByIndex, postgresDb.get())->Unit(benchmark::kMillisecond)->Repetitions(3);
+        benchmark::RegisterBenchmark("postgres/recordset_by_name", recordsetByName, postgresDb.get())->Unit(benchmark::kMillisecond)->Repetitions(3);
+        ratios.push_back({"PostgreSQL, static recordset 100000 x 12", "postgres/recordset", "postgres/raw_libpq", 2.0});
+        ratios.push_back({"PostgreSQL, same, fields by name", "postgres/recordset_by_name", "postgres/raw_libpq", 2.0});
+    }
+    const int rc = runAndReport(argc, argv, ratios);
+    sqliteDb.reset();
+    postgresDb.reset();
+    return rc;
+}
