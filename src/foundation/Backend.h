@@ -32,6 +32,22 @@ protected:
     QList<ColumnInfo> m_columns;
 };
 
+// Rows of one statement read a batch at a time, for lists too big to read at once.
+// Keeps its statement open on the backend until destroyed.
+class RowStream {
+public:
+    virtual ~RowStream() = default;
+    // Reads up to `rows` more rows into the stream's own store; returns how many came.
+    virtual qsizetype fetch(qsizetype rows) = 0;
+    virtual bool atEnd() const = 0;
+    virtual qsizetype rowCount() const = 0;
+    virtual QVariant value(qsizetype row, int column) const = 0;
+    const QList<ColumnInfo>& columns() const { return m_columns; }
+
+protected:
+    QList<ColumnInfo> m_columns;
+};
+
 // One physical connection to an engine. Connection and Recordset are the only users;
 // the pool owns idle backends. Every failure is a DbError.
 class Backend {
@@ -41,6 +57,9 @@ public:
     // `sql` is already in the engine's dialect; `params` bind to its placeholders.
     virtual std::unique_ptr<ResultData> query(const QString& sql, const QVariantList& params) = 0;
     virtual qint64 execute(const QString& sql, const QVariantList& params) = 0;
+    // Starts a statement whose rows are read in batches; its first `firstRows` rows are
+    // read at once (so the columns are known). The backend is busy until the stream dies.
+    virtual std::unique_ptr<RowStream> stream(const QString& sql, qsizetype firstRows) = 0;
     virtual void begin() = 0;
     virtual void commit() = 0;
     virtual void rollback() = 0;

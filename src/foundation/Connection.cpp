@@ -106,6 +106,12 @@ qint64 Connection::execute(const Sql& sql, const QVariantList& params)
     return traced(b, d->connectionString, sql, [&](const QString& sent) { return b.execute(sent, params); });
 }
 
+std::unique_ptr<RowStream> Connection::stream(const Sql& sql, qsizetype firstRows)
+{
+    Backend& b = backend();
+    return traced(b, d->connectionString, sql, [&](const QString& sent) { return b.stream(sent, firstRows); });
+}
+
 qint64 Connection::execute(const Sql& sql)
 {
     return execute(sql, {});

@@ -41,6 +41,7 @@ public:
     // parameters bound to the engine's placeholders.
     std::unique_ptr<ResultData> query(const Sql& sql, const QVariantList& params = {});
     qint64 execute(const Sql& sql, const QVariantList& params);
+    std::unique_ptr<class RowStream> stream(const Sql& sql, qsizetype firstRows);
     Backend& backend() const;
 
     struct State;

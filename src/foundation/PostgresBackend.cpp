@@ -8,6 +8,8 @@
 #include <libpq-fe.h>
 #include <poll.h>
 
+#include <algorithm>
+#include <functional>
 #include <vector>
 
 namespace qd8 {
@@ -15,6 +17,7 @@ namespace qd8 {
 namespace {
 
 constexpr qsizetype MaxPrepared = 256;
+constexpr qsizetype MaxRemembered = 4096;
 
 // Type OIDs from pg_type.h.
 enum : Oid {
@@ -103,6 +106,57 @@ public:
 
 private:
     PGresult* m_result;
+};
+
+// A server-side cursor in a read-only transaction of the stream's own connection; each
+// batch is one FETCH, kept as its PGresult.
+class PostgresStream final : public RowStream {
+public:
+    PostgresStream(PostgresBackend& backend, std::function<PGresult*(const QString&)> run)
+        : m_backend(backend), m_run(std::move(run))
+    {
+    }
+    ~PostgresStream() override
+    {
+        try {
+            m_backend.rollback();
+        } catch (...) {
+        }
+    }
+
+    qsizetype fetch(qsizetype rows) override
+    {
+        if (m_done || rows <= 0)
+            return 0;
+        auto batch = std::make_unique<PostgresResult>(m_run(QStringLiteral("FETCH FORWARD %1 FROM qd8_stream").arg(rows)));
+        const qsizetype added = batch->rowCount();
+        if (m_columns.isEmpty())
+            m_columns = batch->columns();
+        if (added < rows)
+            m_done = true;
+        if (added > 0) {
+            m_starts.push_back(m_count);
+            m_count += added;
+            m_batches.push_back(std::move(batch));
+        }
+        return added;
+    }
+    bool atEnd() const override { return m_done; }
+    qsizetype rowCount() const override { return m_count; }
+    QVariant value(qsizetype row, int column) const override
+    {
+        const auto it = std::upper_bound(m_starts.begin(), m_starts.end(), row) - 1;
+        const size_t batch = size_t(it - m_starts.begin());
+        return m_batches[batch]->value(row - *it, column);
+    }
+
+private:
+    PostgresBackend& m_backend;
+    std::function<PGresult*(const QString&)> m_run;
+    std::vector<std::unique_ptr<PostgresResult>> m_batches;
+    std::vector<qsizetype> m_starts;
+    qsizetype m_count = 0;
+    bool m_done = false;
 };
 
 QByteArray parameterText(const QVariant& v)
@@ -197,6 +251,9 @@ PGresult* PostgresBackend::send(const QByteArray& sql, const QString& text, cons
         return PQexecPrepared(m_conn, it->constData(), count, pointers.data(), nullptr, nullptr, 0);
 
     // A statement met again is worth a server-side plan; one-off statements are not.
+    // Composed texts embed their values, so the memory of texts met once stays bounded.
+    if (m_seen.size() >= MaxRemembered)
+        m_seen.clear();
     int& seen = m_seen[text];
     if (++seen >= 2 && m_prepared.size() < MaxPrepared) {
         const QByteArray name = "qd8_" + QByteArray::number(++m_preparedNames);
@@ -251,6 +308,20 @@ qint64 PostgresBackend::execute(const QString& sql, const QVariantList& params)
     const qint64 affected = QByteArray(PQcmdTuples(result)).toLongLong();
     PQclear(result);
     return affected;
+}
+
+std::unique_ptr<RowStream> PostgresBackend::stream(const QString& sql, qsizetype firstRows)
+{
+    simple("BEGIN READ ONLY");
+    try {
+        PQclear(run(QStringLiteral("DECLARE qd8_stream NO SCROLL CURSOR FOR ") + sql, {}));
+    } catch (...) {
+        rollback();
+        throw;
+    }
+    auto stream = std::make_unique<PostgresStream>(*this, [this](const QString& fetch) { return run(fetch, {}); });
+    stream->fetch(qMax<qsizetype>(firstRows, 1));
+    return stream;
 }
 
 void PostgresBackend::simple(const char* sql)

@@ -54,6 +54,42 @@ private:
     QVariantList m_values;
 };
 
+class QtSqlStream final : public RowStream {
+public:
+    explicit QtSqlStream(QSqlQuery query) : m_query(std::move(query))
+    {
+        const QSqlRecord record = m_query.record();
+        for (int c = 0; c < record.count(); ++c)
+            m_columns.append({record.fieldName(c), ColumnKind::Auto});
+    }
+    qsizetype fetch(qsizetype rows) override
+    {
+        qsizetype added = 0;
+        while (!m_done && added < rows) {
+            if (!m_query.next()) {
+                m_done = true;
+                break;
+            }
+            for (int c = 0; c < m_columns.size(); ++c)
+                m_values.append(m_query.value(c));
+            ++added;
+        }
+        return added;
+    }
+    bool atEnd() const override { return m_done; }
+    qsizetype rowCount() const override { return m_columns.isEmpty() ? 0 : m_values.size() / m_columns.size(); }
+    QVariant value(qsizetype row, int column) const override
+    {
+        const QVariant& v = m_values[row * m_columns.size() + column];
+        return v.isNull() ? QVariant() : v;
+    }
+
+private:
+    QSqlQuery m_query;
+    QVariantList m_values;
+    bool m_done = false;
+};
+
 [[noreturn]] void fail(const QSqlError& error, const QString& sql)
 {
     const auto kind = error.type() == QSqlError::ConnectionError ? DbError::Kind::Connection : DbError::Kind::Engine;
@@ -111,6 +147,13 @@ std::unique_ptr<ResultData> QtSqlBackend::query(const QString& sql, const QVaria
 {
     QSqlQuery query = run(m_name, sql, params);
     return std::make_unique<QtSqlResult>(query);
+}
+
+std::unique_ptr<RowStream> QtSqlBackend::stream(const QString& sql, qsizetype firstRows)
+{
+    auto stream = std::make_unique<QtSqlStream>(run(m_name, sql, {}));
+    stream->fetch(firstRows);
+    return stream;
 }
 
 qint64 QtSqlBackend::execute(const QString& sql, const QVariantList& params)

@@ -14,6 +14,7 @@ public:
     Engine engine() const override { return Engine::QtSql; }
     std::unique_ptr<ResultData> query(const QString& sql, const QVariantList& params) override;
     qint64 execute(const QString& sql, const QVariantList& params) override;
+    std::unique_ptr<RowStream> stream(const QString& sql, qsizetype firstRows) override;
     void begin() override;
     void commit() override;
     void rollback() override;

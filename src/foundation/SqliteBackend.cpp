@@ -171,6 +171,39 @@ private:
     std::vector<Cell> m_cells;
 };
 
+// A statement of its own, stepped a batch at a time into one growing arena.
+class SqliteStream final : public RowStream {
+public:
+    explicit SqliteStream(sqlite3_stmt* stmt) : m_stmt(stmt), m_rows(stmt) { m_columns = m_rows.columns(); }
+    ~SqliteStream() override { sqlite3_finalize(m_stmt); }
+
+    qsizetype fetch(qsizetype rows) override
+    {
+        qsizetype added = 0;
+        while (!m_done && added < rows) {
+            const int rc = sqlite3_step(m_stmt);
+            if (rc == SQLITE_ROW) {
+                m_rows.append(m_stmt);
+                ++added;
+            } else {
+                m_done = true;
+                if (rc != SQLITE_DONE)
+                    throw DbError(DbError::Kind::Engine, QString::fromUtf8(sqlite3_errmsg(sqlite3_db_handle(m_stmt))),
+                        QString::fromUtf8(sqlite3_sql(m_stmt)));
+            }
+        }
+        return added;
+    }
+    bool atEnd() const override { return m_done; }
+    qsizetype rowCount() const override { return m_rows.rowCount(); }
+    QVariant value(qsizetype row, int column) const override { return m_rows.value(row, column); }
+
+private:
+    sqlite3_stmt* m_stmt;
+    SqliteResult m_rows;
+    bool m_done = false;
+};
+
 void bind(sqlite3_stmt* stmt, int index, const QVariant& v)
 {
     if (v.isNull()) {
@@ -342,6 +375,17 @@ qint64 SqliteBackend::execute(const QString& sql, const QVariantList& params)
     }
     finish(stmt, sql);
     return sqlite3_changes64(m_db);
+}
+
+std::unique_ptr<RowStream> SqliteBackend::stream(const QString& sql, qsizetype firstRows)
+{
+    const QByteArray utf8 = sql.toUtf8();
+    sqlite3_stmt* stmt = nullptr;
+    if (sqlite3_prepare_v2(m_db, utf8.constData(), int(utf8.size()), &stmt, nullptr) != SQLITE_OK)
+        fail(sql);
+    auto stream = std::make_unique<SqliteStream>(stmt);
+    stream->fetch(firstRows);
+    return stream;
 }
 
 void SqliteBackend::begin()

@@ -46,7 +46,10 @@ TEST_P(RecordsetTest, AddNewInsertsWithBoundParametersSoQuotesAreJustData)
     rs.setField("TSmpID", 10);
     rs.setField("tsmpcode", QStringLiteral("O'Brien"));
     rs.setField("TSmpName", QStringLiteral("ร้าน 'สมใจ'"));
-    rs.setField("TSmpAmount", QVariant::fromValue(*Currency::parse(QStringLiteral("1234.5678"))));
+    // The largest amount each engine keeps exactly: NUMERIC(19,4) on PostgreSQL, REAL
+    // (15 significant digits) on SQLite.
+    const QString amount = engine() == Engine::PostgreSQL ? QStringLiteral("1234567890123.4567") : QStringLiteral("99999999999.9999");
+    rs.setField("TSmpAmount", QVariant::fromValue(*Currency::parse(amount)));
     rs.setField("TSmpDate", QDate(2026, 11, 21));
     rs.update();
     ASSERT_EQ(trace.sent().size(), 1);
@@ -60,7 +63,7 @@ TEST_P(RecordsetTest, AddNewInsertsWithBoundParametersSoQuotesAreJustData)
     ASSERT_EQ(check.recordCount(), 1);
     EXPECT_EQ(check.text("TSmpCode"), QStringLiteral("O'Brien"));
     EXPECT_EQ(check.text("TSmpName"), QStringLiteral("ร้าน 'สมใจ'"));
-    EXPECT_EQ(check.currency("TSmpAmount").toString(), QStringLiteral("1234.5678"));
+    EXPECT_EQ(check.currency("TSmpAmount").toString(), amount);
     EXPECT_EQ(check.field("TSmpDate").toDate(), QDate(2026, 11, 21));
     EXPECT_TRUE(check.field("TSmpFlag1").isNull());
 }

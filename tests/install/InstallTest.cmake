@@ -9,8 +9,13 @@ if(rc)
   message(FATAL_ERROR "cmake --install failed: ${rc}")
 endif()
 
+# A sanitized library needs a sanitized program around it.
+set(flags "")
+if(SANITIZE)
+  set(flags "-fsanitize=address,undefined")
+endif()
 execute_process(COMMAND ${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${WORK_DIR}/consumer
-    -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_BUILD_TYPE=Release
+    -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_BUILD_TYPE=Release "-DCMAKE_CXX_FLAGS=${flags}"
   RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
 if(rc)
   message(FATAL_ERROR "configuring the outside program failed:\n${out}\n${err}")

@@ -1,0 +1,41 @@
+#include "foundation/Services.h"
+
+#include <stdexcept>
+
+namespace qd8 {
+
+namespace {
+
+struct Slot {
+    MessageService* messages = nullptr;
+    PickerService* picker = nullptr;
+    ShellService* shell = nullptr;
+};
+Slot installed;
+Slot defaults;
+
+template <typename T>
+T& pick(T* current, T* fallback, const char* what)
+{
+    if (current)
+        return *current;
+    if (fallback)
+        return *fallback;
+    throw std::logic_error(std::string("no ") + what + " service is installed");
+}
+
+} // namespace
+
+MessageService& Services::messages() { return pick(installed.messages, defaults.messages, "message"); }
+PickerService& Services::picker() { return pick(installed.picker, defaults.picker, "pick-list"); }
+ShellService& Services::shell() { return pick(installed.shell, defaults.shell, "shell"); }
+void Services::setMessages(MessageService* service) { installed.messages = service; }
+void Services::setPicker(PickerService* service) { installed.picker = service; }
+void Services::setShell(ShellService* service) { installed.shell = service; }
+
+void Services::setDefaults(MessageService* messages, PickerService* picker, ShellService* shell)
+{
+    defaults = {messages, picker, shell};
+}
+
+} // namespace qd8

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "foundation/PickRequest.h"
+
+#include <QString>
+
+namespace qd8 {
+
+// Everything modal or external goes through these services, so that a host can replace
+// them and tests answer them from a script; no test ever waits on a dialog. The widgets
+// layer installs the Qt implementations (QMessageBox, the pick-list dialog, QProcess,
+// QDesktopServices) when the library loads.
+
+class MessageService {
+public:
+    virtual ~MessageService() = default;
+    virtual void information(const QString& title, const QString& text) = 0;
+    virtual void critical(const QString& title, const QString& text) = 0;
+    // Yes/No question; No is the default button. True when the user answered Yes.
+    virtual bool question(const QString& title, const QString& text) = 0;
+};
+
+class PickerService {
+public:
+    virtual ~PickerService() = default;
+    // The key field's value of the picked row, or "" when nothing was picked.
+    virtual QString pick(const PickRequest& request) = 0;
+};
+
+class ShellService {
+public:
+    virtual ~ShellService() = default;
+    // Starts a program; windowStyle as the suite passes it (1 normal, 3 maximised...).
+    virtual bool run(const QString& commandLine, int windowStyle) = 0;
+    // Opens a web page, a mail address ("mailto:") or a folder with the desktop's handler.
+    virtual bool openUrl(const QString& url) = 0;
+};
+
+// The services in force. Setting one does not take ownership; pass nullptr to return to
+// the default. Calling a service none has been installed for throws std::logic_error.
+class Services {
+public:
+    static MessageService& messages();
+    static PickerService& picker();
+    static ShellService& shell();
+    static void setMessages(MessageService* service);
+    static void setPicker(PickerService* service);
+    static void setShell(ShellService* service);
+    // Used by the widgets layer to install the Qt implementations.
+    static void setDefaults(MessageService* messages, PickerService* picker, ShellService* shell);
+};
+
+} // namespace qd8
