@@ -3,8 +3,8 @@
 -- user 2 in English. The passwords of users 1 and 2 are 1234.
 
 INSERT INTO QD8TUser (TUsrID, TUsrLoginName, TUsrLoginPassword, TUsrName, TUsrName2, TUsrTEmpCode, TUsrProjectLevel, TUsrActiveStatus, TUsrCreateDate, TUsrFlag1) VALUES (0, 'ADMIN', '', 'ผู้ดูแลระบบ', 'Administrator', NULL, 9, 1, '2026-01-02 08:00:00', 1);
-INSERT INTO QD8TUser (TUsrID, TUsrLoginName, TUsrLoginPassword, TUsrName, TUsrName2, TUsrTEmpCode, TUsrProjectLevel, TUsrActiveStatus, TUsrCreateDate, TUsrFlag1) VALUES (1, 'SOMCHAI', 'sha256:03ac674216f3e15c761ee1a5e255f067953623c8b388b4459e13f978d7c846f4', 'สมชาย ใจดี', 'Somchai Jaidee', NULL, 1, 1, '2026-01-02 08:30:00', 1);
-INSERT INTO QD8TUser (TUsrID, TUsrLoginName, TUsrLoginPassword, TUsrName, TUsrName2, TUsrTEmpCode, TUsrProjectLevel, TUsrActiveStatus, TUsrCreateDate, TUsrFlag1) VALUES (2, 'JOHN', 'sha256:03ac674216f3e15c761ee1a5e255f067953623c8b388b4459e13f978d7c846f4', 'จอห์น สมิธ', 'John Smith', NULL, 1, 1, '2026-01-02 08:45:00', 1);
+INSERT INTO QD8TUser (TUsrID, TUsrLoginName, TUsrLoginPassword, TUsrName, TUsrName2, TUsrTEmpCode, TUsrProjectLevel, TUsrActiveStatus, TUsrCreateDate, TUsrFlag1) VALUES (1, 'SOMCHAI', 'sha256:03ac674216f3e15c761ee1a5e255f067953623c8b388b4459e13f978d7c846f4', 'สมชาย ใจดี', 'Somchai Jaidee', 'E001', 1, 1, '2026-01-02 08:30:00', 1);
+INSERT INTO QD8TUser (TUsrID, TUsrLoginName, TUsrLoginPassword, TUsrName, TUsrName2, TUsrTEmpCode, TUsrProjectLevel, TUsrActiveStatus, TUsrCreateDate, TUsrFlag1) VALUES (2, 'JOHN', 'sha256:03ac674216f3e15c761ee1a5e255f067953623c8b388b4459e13f978d7c846f4', 'จอห์น สมิธ', 'John Smith', 'E002', 1, 1, '2026-01-02 08:45:00', 1);
 
 -- Language and ribbon theme per user.
 INSERT INTO QD8TUserSetting (TUsSTUsrID, TUsSAlias, TUsSValue) VALUES (0, 'LanguageID', '0');
@@ -84,3 +84,26 @@ INSERT INTO QD8TUserCommand (TUsCTUsrID, TUsCTCmdID, TUsCSort) VALUES (1, 202, 2
 INSERT INTO QD8TUserCommand (TUsCTUsrID, TUsCTCmdID, TUsCSort) VALUES (1, 104, 3);
 INSERT INTO QD8TUserCommand (TUsCTUsrID, TUsCTCmdID, TUsCSort) VALUES (2, 202, 1);
 INSERT INTO QD8TUserCommand (TUsCTUsrID, TUsCTCmdID, TUsCSort) VALUES (2, 304, 2);
+
+-- Branches, employee types and the employees behind the sample users: SOMCHAI works at
+-- head office, JOHN at the Chiang Mai branch and sees only office staff and sales people.
+INSERT INTO QD8TBranch (TBraCode, TBraName, TBraName2, TBraSort, TBraFlag1) VALUES ('HQ', 'สำนักงานใหญ่', 'Head Office', 1, 1);
+INSERT INTO QD8TBranch (TBraCode, TBraName, TBraName2, TBraSort, TBraFlag1) VALUES ('CNX', 'สาขาเชียงใหม่', 'Chiang Mai Branch', 2, 1);
+INSERT INTO QD8TEmployeeType (TEmTCode, TEmTName, TEmTName2, TEmTSort, TEmTFlag1) VALUES ('01', 'พนักงานสำนักงาน', 'Office Staff', 1, 1);
+INSERT INTO QD8TEmployeeType (TEmTCode, TEmTName, TEmTName2, TEmTSort, TEmTFlag1) VALUES ('02', 'พนักงานขาย', 'Sales', 2, 1);
+INSERT INTO QD8TEmployeeType (TEmTCode, TEmTName, TEmTName2, TEmTSort, TEmTFlag1) VALUES ('03', 'ผู้บริหาร', 'Management', 3, 1);
+INSERT INTO QD8TEmployeeType (TEmTCode, TEmTName, TEmTName2, TEmTSort, TEmTFlag1) VALUES ('04', 'พนักงานรายวัน', 'Daily Workers', 4, 0);
+INSERT INTO QD8TEmployee (TEmpCode, TEmpFullName, TEmpFullName2, TEmpTEmTCode, TEmpTBraCode, TEmpStartDate, TEmpActiveStatus, TEmpFlag1) VALUES ('E001', 'สมชาย ใจดี', 'Somchai Jaidee', '03', 'HQ', '2019-04-01', 1, 1);
+INSERT INTO QD8TEmployee (TEmpCode, TEmpFullName, TEmpFullName2, TEmpTEmTCode, TEmpTBraCode, TEmpStartDate, TEmpActiveStatus, TEmpFlag1) VALUES ('E002', 'จอห์น สมิธ', 'John Smith', '01', 'CNX', '2021-08-16', 1, 1);
+INSERT INTO QD8TEmployee (TEmpCode, TEmpFullName, TEmpFullName2, TEmpTEmTCode, TEmpTBraCode, TEmpStartDate, TEmpActiveStatus, TEmpFlag1) VALUES ('E003', 'มาลี ศรีสุข', 'Malee Srisuk', '02', 'CNX', '2023-01-09', 1, 1);
+INSERT INTO QD8TEmployee (TEmpCode, TEmpFullName, TEmpFullName2, TEmpTEmTCode, TEmpTBraCode, TEmpStartDate, TEmpActiveStatus, TEmpFlag1) VALUES ('E004', 'ประยุทธ มั่นคง', 'Prayut Mankong', '04', 'HQ', '2024-06-03', 1, 1);
+INSERT INTO QD8TUserEmpType (TUEtTUsrID, TUEtLevel, TUEtTEmTCode) VALUES (2, 0, '01');
+INSERT INTO QD8TUserEmpType (TUEtTUsrID, TUEtLevel, TUEtTEmTCode) VALUES (2, 0, '02');
+
+-- SOMCHAI sees documents waiting for approval only when their note is empty or "ฝ่ายบัญชี".
+INSERT INTO QD8TUserSetting (TUsSTUsrID, TUsSAlias, TUsSValue) VALUES (1, 'ApproveNoteFilter', '1');
+INSERT INTO QD8TUserSetting (TUsSTUsrID, TUsSAlias, TUsSValue) VALUES (1, 'ApproveNoteValue', 'ฝ่ายบัญชี');
+
+-- Company option values and the voucher numbers already taken this month.
+INSERT INTO QD8TOptionValue (TOpVScope, TOpVScopeKey, TOpVTOptAlias, TOpVValue, TOpVNumber, TOpVEditBy, TOpVEditDate) VALUES ('COMPANY', '', 'ARCREDITBALANCEIGNORECHEQUE', '0', 0, 'ADMIN', '2026-01-02 09:00:00');
+INSERT INTO QD8TRunningNumber (TRunKey, TRunSubKey, TRunLastNo, TRunEditDate) VALUES ('DAILYRECORDCALL', 'JV2611', 12, '2026-11-20 17:10:00');

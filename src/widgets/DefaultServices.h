@@ -1,0 +1,28 @@
+#pragma once
+
+#include "foundation/Services.h"
+
+namespace qd8 {
+
+// The Qt implementations of the services, installed as the defaults when the library
+// loads: QMessageBox, the pick-list dialog, QProcess and QDesktopServices.
+
+class QtMessageService : public MessageService {
+public:
+    void information(const QString& title, const QString& text) override;
+    void critical(const QString& title, const QString& text) override;
+    bool question(const QString& title, const QString& text) override;
+};
+
+class DialogPickerService : public PickerService {
+public:
+    QString pick(const PickRequest& request) override;
+};
+
+class QtShellService : public ShellService {
+public:
+    bool run(const QString& commandLine, int windowStyle) override;
+    bool openUrl(const QString& url) override;
+};
+
+} // namespace qd8

@@ -1,3 +1,5 @@
+#include "support/ScriptedServices.h"
+
 #include <QApplication>
 #include <QLocale>
 #include <gtest/gtest.h>
@@ -8,5 +10,10 @@ int main(int argc, char* argv[])
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     QApplication app(argc, argv);
     testing::InitGoogleTest(&argc, argv);
+    // Every test starts with scripted dialogs and shell, so nothing can wait on a person.
+    struct Scripted : testing::EmptyTestEventListener {
+        void OnTestStart(const testing::TestInfo&) override { qd8::test::installScriptedServices(); }
+    };
+    testing::UnitTest::GetInstance()->listeners().Append(new Scripted);
     return RUN_ALL_TESTS();
 }

@@ -1,0 +1,121 @@
+#include "widgets/HostedControl.h"
+
+#include "database/AppObject.h"
+#include "database/ClientObject.h"
+#include "database/DataObject.h"
+#include "database/PermissionObject.h"
+#include "database/SessionFunctions.h"
+#include "database/SessionServices.h"
+
+#include <cmath>
+#include <stdexcept>
+
+namespace qd8 {
+
+namespace {
+
+// The suite's string-to-Long conversion: surrounding blanks ignored, decimals rounded to
+// the nearest (ties to even), anything else an error.
+qint32 toLong(const QString& text)
+{
+    bool ok = false;
+    const double value = text.trimmed().toDouble(&ok);
+    if (!ok || std::abs(value) > 2147483647.0)
+        throw std::invalid_argument(QStringLiteral("UserID \"%1\" is not a number").arg(text).toStdString());
+    return qint32(std::nearbyint(value));
+}
+
+} // namespace
+
+HostedControl::HostedControl(QWidget* parent)
+    : QWidget(parent)
+{
+}
+
+HostedControl::~HostedControl() = default;
+
+qlonglong HostedControl::hWnd() const
+{
+    return qlonglong(const_cast<HostedControl*>(this)->winId());
+}
+
+void HostedControl::SetFirst(std::shared_ptr<DataObject> iDataObj, std::shared_ptr<AppObject> iAppObj,
+    std::shared_ptr<ClientObject> iClientObj)
+{
+    m_dataObject = std::move(iDataObj);
+    m_appObject = std::move(iAppObj);
+    m_clientObject = std::move(iClientObj);
+}
+
+void HostedControl::SetLast(const QString& FolderPathName, const QString& ControlName, const QString& UserID)
+{
+    SetLast2(FolderPathName, ControlName, UserID, QString(), QString());
+}
+
+void HostedControl::SetLast2(const QString& FolderPathName, const QString& ControlName, const QString& UserID,
+    const QString& DataConnectionString, const QString& AppConnectionString)
+{
+    m_session.FolderPathName = FolderPathName;
+    m_session.ControlName = ControlName;
+    m_session.DataConnectionString = DataConnectionString;
+    m_session.AppConnectionString = AppConnectionString;
+    m_session.UserID = toLong(UserID);
+    const double language = SessionServices::sessionFunctions().GetUserSetting(m_session.UserID, QStringLiteral("LanguageID"), DataConnectionString);
+    m_session.LanguageID = qint16(std::nearbyint(language));
+    m_session.FolderPathName = withTrailingBackslash(FolderPathName);
+}
+
+void HostedControl::SetPermission(PermissionObject& PM)
+{
+    for (const QString& key : PermissionObject::ToolBarKeys) {
+        if (PM.right(key) != 0)
+            continue;
+        if (QObject* button = toolButton(key))
+            button->setProperty("enabled", false);
+    }
+}
+
+int HostedControl::SetParentForm(QWidget* PassForm, bool)
+{
+    m_parentForm = PassForm;
+    return 0;
+}
+
+void HostedControl::SetPrintCommand(qint32 DTSID, const QString& AppPath, const QString& UserName, const QString& UserPassword)
+{
+    m_printCommand = {DTSID, AppPath, UserName, UserPassword};
+}
+
+void HostedControl::readProperties(const PropertyBag& bag)
+{
+    for (const QString& key : propertyKeysRead())
+        setDesignProperty(key, bag.read(key));
+}
+
+void HostedControl::writeProperties(PropertyBag& bag) const
+{
+    for (const QString& key : propertyKeysWritten())
+        bag.write(key, designProperty(key));
+}
+
+QString HostedControl::designProperty(const QString& key) const
+{
+    return property(key.toLatin1().constData()).toString();
+}
+
+void HostedControl::setDesignProperty(const QString& key, const QString& value)
+{
+    setProperty(key.toLatin1().constData(), value);
+}
+
+void HostedControl::registerToolButton(const QString& key, QObject* button)
+{
+    m_toolButtons.insert(key, button);
+}
+
+QObject* HostedControl::toolButton(const QString& key) const
+{
+    return m_toolButtons.value(key);
+}
+
+} // namespace qd8

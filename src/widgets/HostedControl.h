@@ -1,0 +1,138 @@
+#pragma once
+
+#include "foundation/PropertyBag.h"
+#include "foundation/SessionContext.h"
+
+#include <QHash>
+#include <QPointer>
+#include <QWidget>
+#include <memory>
+
+namespace qd8 {
+
+class AppObject;
+class ClientObject;
+class DataObject;
+class PermissionObject;
+
+// What the host hands a control for printing: the report set and who prints it.
+struct PrintCommand {
+    qint32 DTSID = 0;
+    QString AppPath;
+    QString UserName;
+    QString UserPassword;
+};
+
+// The base of every control: the host contract implemented once. The host drives a
+// control in this order: creation (design-time strings ""), readProperties, the session
+// (properties, or SetFirst then SetLast/SetLast2), SetPermission/SetPrintCommand/
+// SetParentForm, Refresh, use (the control raises its events), writeProperties (design
+// time only), destruction (held objects released).
+//
+// The control keeps its own copy of the session; the setters store and never validate, so
+// a wrong connection string shows only when the control opens a connection.
+class HostedControl : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(QString ConnectionString READ ConnectionString WRITE setConnectionString)
+    Q_PROPERTY(QString AppConnectionString READ AppConnectionString WRITE setAppConnectionString)
+    Q_PROPERTY(QString DataConnectionString READ DataConnectionString WRITE setDataConnectionString)
+    Q_PROPERTY(qint32 UserID READ UserID WRITE setUserID)
+    Q_PROPERTY(QString UserLoginName READ UserLoginName WRITE setUserLoginName)
+    Q_PROPERTY(QString UserLoginPassword READ UserLoginPassword WRITE setUserLoginPassword)
+    Q_PROPERTY(QString AppPath READ AppPath WRITE setAppPath)
+    Q_PROPERTY(QString SystemFolder READ SystemFolder WRITE setSystemFolder)
+    Q_PROPERTY(QString SpecFolder READ SpecFolder WRITE setSpecFolder)
+    Q_PROPERTY(QString ImageFolder READ ImageFolder WRITE setImageFolder)
+    Q_PROPERTY(QString IconPath READ IconPath WRITE setIconPath)
+    Q_PROPERTY(QString CommandGroup READ CommandGroup WRITE setCommandGroup)
+    Q_PROPERTY(qlonglong hWnd READ hWnd)
+
+public:
+    explicit HostedControl(QWidget* parent = nullptr);
+    ~HostedControl() override;
+
+    const SessionContext& session() const { return m_session; }
+    QString ConnectionString() const { return m_session.ConnectionString; }
+    void setConnectionString(const QString& value) { m_session.ConnectionString = value; }
+    QString AppConnectionString() const { return m_session.AppConnectionString; }
+    void setAppConnectionString(const QString& value) { m_session.AppConnectionString = value; }
+    QString DataConnectionString() const { return m_session.DataConnectionString; }
+    void setDataConnectionString(const QString& value) { m_session.DataConnectionString = value; }
+    qint32 UserID() const { return m_session.UserID; }
+    void setUserID(qint32 value) { m_session.UserID = value; }
+    QString UserLoginName() const { return m_session.UserLoginName; }
+    void setUserLoginName(const QString& value) { m_session.UserLoginName = value; }
+    QString UserLoginPassword() const { return m_session.UserLoginPassword; }
+    void setUserLoginPassword(const QString& value) { m_session.UserLoginPassword = value; }
+    QString AppPath() const { return m_session.AppPath; }
+    void setAppPath(const QString& value) { m_session.AppPath = value; }
+    QString SystemFolder() const { return m_session.SystemFolder; }
+    void setSystemFolder(const QString& value) { m_session.SystemFolder = value; }
+    QString SpecFolder() const { return m_session.SpecFolder; }
+    void setSpecFolder(const QString& value) { m_session.SpecFolder = value; }
+    QString ImageFolder() const { return m_session.ImageFolder; }
+    void setImageFolder(const QString& value) { m_session.ImageFolder = value; }
+    QString IconPath() const { return m_session.IconPath; }
+    void setIconPath(const QString& value) { m_session.IconPath = value; }
+    QString CommandGroup() const { return m_session.CommandGroup; }
+    void setCommandGroup(const QString& value) { m_session.CommandGroup = value; }
+    qint16 LanguageID() const { return m_session.LanguageID; }
+    QString nameSuffix() const { return m_session.nameSuffix(); }
+    qlonglong hWnd() const;
+
+    // The session objects of the data-access layer; held until the control is destroyed.
+    void SetFirst(std::shared_ptr<DataObject> iDataObj, std::shared_ptr<AppObject> iAppObj, std::shared_ptr<ClientObject> iClientObj);
+    DataObject* dataObject() const { return m_dataObject.get(); }
+    AppObject* appObject() const { return m_appObject.get(); }
+    ClientObject* clientObject() const { return m_clientObject.get(); }
+
+    // SetLast2 with "" for both connection strings.
+    Q_INVOKABLE void SetLast(const QString& FolderPathName, const QString& ControlName, const QString& UserID);
+    // Stores the five values, converts UserID to a number (std::invalid_argument when it is
+    // not one), reads the user's "LanguageID" setting from DataConnectionString (rounded;
+    // a database failure reaches the caller as DbError), settles the name suffix and
+    // makes FolderPathName end in "\".
+    Q_INVOKABLE void SetLast2(const QString& FolderPathName, const QString& ControlName, const QString& UserID,
+        const QString& DataConnectionString, const QString& AppConnectionString);
+    // Disables the tool-bar button of every right that is 0, reading "Add", "Delete",
+    // "UnPass", "Copy", "Edit", "Check", "Pass", "Print" in that order; never enables one.
+    virtual void SetPermission(PermissionObject& PM);
+    // Hands the host form to the control's editing grid; returns the grid's answer
+    // (0 for a control without one).
+    virtual int SetParentForm(QWidget* PassForm, bool ActionSingleControl = false);
+    QWidget* parentForm() const { return m_parentForm; }
+    Q_INVOKABLE void SetPrintCommand(qint32 DTSID, const QString& AppPath, const QString& UserName, const QString& UserPassword);
+    const qd8::PrintCommand& printCommand() const { return m_printCommand; }
+
+    // Restores the design-time keys this control reads; each missing key reads as "".
+    void readProperties(const PropertyBag& bag);
+    // Saves the design-time keys this control writes.
+    void writeProperties(PropertyBag& bag) const;
+
+public Q_SLOTS:
+    // Re-reads everything the control shows from the databases.
+    virtual void Refresh() {}
+
+protected:
+    // The design-time keys: the ones read and the ones written may differ.
+    virtual QStringList propertyKeysRead() const { return {}; }
+    virtual QStringList propertyKeysWritten() const { return propertyKeysRead(); }
+    // A design-time key's value; by default the property of that name.
+    virtual QString designProperty(const QString& key) const;
+    virtual void setDesignProperty(const QString& key, const QString& value);
+    // Tool-bar buttons (QAction or QWidget) under their right keys, for SetPermission.
+    void registerToolButton(const QString& key, QObject* button);
+    QObject* toolButton(const QString& key) const;
+    SessionContext& mutableSession() { return m_session; }
+
+private:
+    SessionContext m_session;
+    std::shared_ptr<DataObject> m_dataObject;
+    std::shared_ptr<AppObject> m_appObject;
+    std::shared_ptr<ClientObject> m_clientObject;
+    QPointer<QWidget> m_parentForm;
+    qd8::PrintCommand m_printCommand;
+    QHash<QString, QPointer<QObject>> m_toolButtons;
+};
+
+} // namespace qd8

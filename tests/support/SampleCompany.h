@@ -1,0 +1,27 @@
+#pragma once
+
+#include "support/ScratchDatabase.h"
+
+#include <memory>
+
+namespace qd8::test {
+
+// The three databases of the sample company (application, command centre, company data),
+// on the engine under test, created fresh for each test.
+class SampleCompanyTest : public EngineTest {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    QString appConnectionString() const { return app->connectionString(); }
+    QString centreConnectionString() const { return centre->connectionString(); }
+    QString dataConnectionString() const { return data->connectionString(); }
+    void runOnData(const QStringList& statements) const { data->run(statements); }
+    void runOnApp(const QStringList& statements) const { app->run(statements); }
+
+private:
+    std::unique_ptr<QTemporaryDir> folder;
+    std::unique_ptr<ScratchDatabase> app, centre, data;
+};
+
+} // namespace qd8::test

@@ -1,0 +1,73 @@
+#include "support/ScriptedServices.h"
+
+#include <gtest/gtest.h>
+
+namespace qd8::test {
+
+void ScriptedMessages::information(const QString& title, const QString& text)
+{
+    shown.append({QStringLiteral("information"), title, text});
+}
+
+void ScriptedMessages::critical(const QString& title, const QString& text)
+{
+    shown.append({QStringLiteral("critical"), title, text});
+}
+
+bool ScriptedMessages::question(const QString& title, const QString& text)
+{
+    shown.append({QStringLiteral("question"), title, text});
+    if (answers.isEmpty()) {
+        ADD_FAILURE() << "unscripted question: " << text.toStdString();
+        return false;
+    }
+    return answers.takeFirst();
+}
+
+QString ScriptedPicker::pick(const PickRequest& request)
+{
+    requests.append(request);
+    return answers.isEmpty() ? QString() : answers.takeFirst();
+}
+
+bool ScriptedShell::run(const QString& commandLine, int windowStyle)
+{
+    commands << QStringLiteral("run:%1:%2").arg(commandLine).arg(windowStyle);
+    return true;
+}
+
+bool ScriptedShell::openUrl(const QString& url)
+{
+    commands << QStringLiteral("url:") + url;
+    return true;
+}
+
+ScriptedMessages& scriptedMessages()
+{
+    static ScriptedMessages service;
+    return service;
+}
+
+ScriptedPicker& scriptedPicker()
+{
+    static ScriptedPicker service;
+    return service;
+}
+
+ScriptedShell& scriptedShell()
+{
+    static ScriptedShell service;
+    return service;
+}
+
+void installScriptedServices()
+{
+    scriptedMessages().reset();
+    scriptedPicker().reset();
+    scriptedShell().reset();
+    Services::setMessages(&scriptedMessages());
+    Services::setPicker(&scriptedPicker());
+    Services::setShell(&scriptedShell());
+}
+
+} // namespace qd8::test

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "foundation/Services.h"
+
+#include <QList>
+#include <QStringList>
+
+namespace qd8::test {
+
+// Services that answer from a script and record every call, installed for every test by
+// the shared main: no test ever waits on a dialog or starts a program.
+class ScriptedMessages : public MessageService {
+public:
+    struct Shown {
+        QString kind;  // "information", "critical", "question"
+        QString title;
+        QString text;
+    };
+    void information(const QString& title, const QString& text) override;
+    void critical(const QString& title, const QString& text) override;
+    // Answers from the queue; an unscripted question fails the test and answers No.
+    bool question(const QString& title, const QString& text) override;
+
+    QList<bool> answers;
+    QList<Shown> shown;
+    void reset() { answers.clear(); shown.clear(); }
+};
+
+class ScriptedPicker : public PickerService {
+public:
+    // Answers from the queue; "" (nothing picked) once it is empty.
+    QString pick(const PickRequest& request) override;
+
+    QStringList answers;
+    QList<PickRequest> requests;
+    void reset() { answers.clear(); requests.clear(); }
+};
+
+class ScriptedShell : public ShellService {
+public:
+    bool run(const QString& commandLine, int windowStyle) override;
+    bool openUrl(const QString& url) override;
+
+    QStringList commands;  // "run:<command line>:<style>" or "url:<url>"
+    void reset() { commands.clear(); }
+};
+
+ScriptedMessages& scriptedMessages();
+ScriptedPicker& scriptedPicker();
+ScriptedShell& scriptedShell();
+// Installs the three as the services in force and clears their scripts.
+void installScriptedServices();
+
+} // namespace qd8::test
