@@ -1,0 +1,66 @@
+#include "support/SampleCompany.h"
+
+#include "database/QuickFormPick.h"
+#include "foundation/Services.h"
+#include "widgets/PickListDialog.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTest>
+#include <QTableView>
+#include <QTimer>
+
+using namespace qd8;
+using namespace qd8::test;
+
+namespace {
+
+// The library's own pick list, reached the way a control reaches it: a quick form through
+// the list service and the default picker service, on the sample company.
+class DefaultPickerTest : public SampleCompanyTest {
+protected:
+    void SetUp() override
+    {
+        SampleCompanyTest::SetUp();
+        Services::setPicker(nullptr);  // the dialog, not the test script
+    }
+    // Types into the modal pick list once it is up, notes how many rows are left, then
+    // presses `key`.
+    void whenTheDialogOpens(const QString& typed, Qt::Key key)
+    {
+        QTimer::singleShot(0, [this, typed, key] {
+            auto* dialog = qobject_cast<PickListDialog*>(QApplication::activeModalWidget());
+            if (!dialog) {
+                ADD_FAILURE() << "no pick list is showing";
+                return;
+            }
+            for (const QChar c : typed)  // Thai is typed as text, not as key codes
+                QTest::sendKeyEvent(QTest::Click, dialog->searchBox(), Qt::Key_unknown, QString(c), Qt::NoModifier);
+            rowsShown = dialog->view()->model()->rowCount();
+            QTest::keyClick(dialog->searchBox(), key);
+            if (dialog->isVisible())
+                dialog->reject();  // Enter over an empty list picks nothing and stays open
+        });
+    }
+    int rowsShown = -1;
+};
+
+TEST_P(DefaultPickerTest, TypingNarrowsTheListAndEnterReturnsTheHiddenKey)
+{
+    whenTheDialogOpens(QStringLiteral("ขาย"), Qt::Key_Return);
+    EXPECT_EQ(QuickFormPick(QStringLiteral("EMPTYPE"), appConnectionString(), dataConnectionString()), QStringLiteral("02"));
+    EXPECT_EQ(rowsShown, 1);
+    whenTheDialogOpens(QStringLiteral("office"), Qt::Key_Return);
+    EXPECT_EQ(QuickFormPick(QStringLiteral("EMPTYPE"), appConnectionString(), dataConnectionString()), QStringLiteral("01"));
+    whenTheDialogOpens(QString(), Qt::Key_Escape);
+    EXPECT_EQ(QuickFormPick(QStringLiteral("EMPTYPE"), appConnectionString(), dataConnectionString()), QString());
+    EXPECT_EQ(rowsShown, 3);
+    // Rows not in use are not offered: "พนักงานรายวัน" has TEmTFlag1=0.
+    whenTheDialogOpens(QStringLiteral("รายวัน"), Qt::Key_Return);
+    EXPECT_EQ(QuickFormPick(QStringLiteral("EMPTYPE"), appConnectionString(), dataConnectionString()), QString());
+    EXPECT_EQ(rowsShown, 0);
+}
+
+QD8_ON_BOTH_ENGINES(DefaultPickerTest);
+
+} // namespace
