@@ -39,12 +39,6 @@ ConnectionPool::Slot& ConnectionPool::slot(const QString& connectionString)
     return it->second;
 }
 
-ConnectionString ConnectionPool::parsed(const QString& connectionString)
-{
-    QMutexLocker lock(&m_mutex);
-    return slot(connectionString).parsed;
-}
-
 std::unique_ptr<Backend> ConnectionPool::acquire(const QString& connectionString)
 {
     ConnectionString cs;

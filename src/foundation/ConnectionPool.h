@@ -27,8 +27,6 @@ public:
 
     int maxIdle() const { return m_maxIdle; }
     void setMaxIdle(int count) { m_maxIdle = count; }
-    // Parsed form of a connection string, cached (parsing throws DbError once per string).
-    ConnectionString parsed(const QString& connectionString);
 
     ~ConnectionPool();
 

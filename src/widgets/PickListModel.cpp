@@ -76,7 +76,7 @@ void PickListModel::load(const PickRequest& request)
             throw DbError(DbError::Kind::Usage, QStringLiteral("The pick list names no fields"));
         const QStringList captions = entriesFor(request.captionList, fields.size());
         const QStringList types = entriesFor(request.typeList, fields.size());
-        QList<int> widths = request.widthList.isEmpty() && fields.size() == 1 ? QList<int>{0} : parseWidths(request.widthList);
+        const QList<int> widths = request.widthList.isEmpty() && fields.size() == 1 ? QList<int>{0} : parseWidths(request.widthList);
 
         QStringList surplus;
         auto check = [&](const char* what, const QString& list, qsizetype count) {
