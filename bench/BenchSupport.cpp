@@ -78,7 +78,13 @@ public:
 
 int runAndReport(int argc, char** argv, const std::vector<Ratio>& ratios)
 {
-    benchmark::Initialize(&argc, argv);
+    // Repetitions of ours and of the floor take turns, so a slow moment of the machine (or
+    // of the database server) does not fall on one side only.
+    std::vector<char*> arguments(argv, argv + argc);
+    char interleave[] = "--benchmark_enable_random_interleaving=true";
+    arguments.insert(arguments.begin() + 1, interleave);
+    int count = int(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
     Collector collector;
     benchmark::RunSpecifiedBenchmarks(&collector);
     std::printf("\n");
