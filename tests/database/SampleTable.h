@@ -8,15 +8,11 @@ namespace qd8::test {
 
 // A scratch database holding one small table with the value kinds the controls read:
 // codes, Thai names (COLLATE THAI), money, dates, in-use flags, a NULL and an "".
-class SampleTableTest : public EngineTest {
+class SampleTableTest : public ScratchTableTest {
 protected:
-    void SetUp() override
+    QStringList tableStatements() const override
     {
-        EngineTest::SetUp();
-        if (IsSkipped())
-            return;
-        db = std::make_unique<ScratchDatabase>(engine());
-        db->run({
+        return {
             QStringLiteral("CREATE TABLE QD8TSample (TSmpID INTEGER PRIMARY KEY, TSmpCode VARCHAR(20), "
                            "TSmpName VARCHAR(100) COLLATE THAI, TSmpAmount NUMERIC(19,4), TSmpDate DATE, TSmpFlag1 INTEGER)"),
             QStringLiteral("INSERT INTO QD8TSample VALUES (1, 'A', 'กา', 10.5, '2026-01-05', 1)"),
@@ -25,11 +21,8 @@ protected:
             QStringLiteral("INSERT INTO QD8TSample VALUES (4, 'D', 'ไก่', -2.25, '2026-02-28', 0)"),
             QStringLiteral("INSERT INTO QD8TSample VALUES (5, 'E', 'ขา', 0, '2026-03-01', 1)"),
             QStringLiteral("INSERT INTO QD8TSample VALUES (6, '', NULL, NULL, NULL, NULL)"),
-        });
+        };
     }
-    void TearDown() override { db.reset(); }
-
-    std::unique_ptr<ScratchDatabase> db;
 };
 
 } // namespace qd8::test

@@ -5,6 +5,7 @@
 
 #include <QAtomicInt>
 #include <QCoreApplication>
+#include <QTest>
 
 namespace qd8::test {
 
@@ -82,6 +83,21 @@ void EngineTest::SetUp()
 {
     if (GetParam() == Engine::PostgreSQL && !ScratchDatabase::postgresAvailable())
         GTEST_SKIP() << "no PostgreSQL server (run the suite through ./qd8 test, which starts one)";
+}
+
+void ScratchTableTest::SetUp()
+{
+    EngineTest::SetUp();
+    if (IsSkipped())
+        return;
+    db = std::make_unique<ScratchDatabase>(engine());
+    db->run(tableStatements());
+}
+
+void typeText(QWidget* widget, const QString& text)
+{
+    for (const QChar c : text)
+        QTest::sendKeyEvent(QTest::Click, widget, Qt::Key_unknown, QString(c), Qt::NoModifier);
 }
 
 std::string engineName(const testing::TestParamInfo<Engine>& info)

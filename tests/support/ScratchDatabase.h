@@ -42,6 +42,19 @@ protected:
     Engine engine() const { return GetParam(); }
 };
 
+// A scratch database per test on the engine under test, filled by tableStatements().
+class ScratchTableTest : public EngineTest {
+protected:
+    void SetUp() override;
+    void TearDown() override { db.reset(); }
+    virtual QStringList tableStatements() const = 0;
+
+    std::unique_ptr<ScratchDatabase> db;
+};
+
+// Types text into a widget as a keyboard sends it (Thai as text, not as key codes).
+void typeText(QWidget* widget, const QString& text);
+
 std::string engineName(const testing::TestParamInfo<Engine>& info);
 
 } // namespace qd8::test

@@ -34,8 +34,7 @@ protected:
                 ADD_FAILURE() << "no pick list is showing";
                 return;
             }
-            for (const QChar c : typed)  // Thai is typed as text, not as key codes
-                QTest::sendKeyEvent(QTest::Click, dialog->searchBox(), Qt::Key_unknown, QString(c), Qt::NoModifier);
+            typeText(dialog->searchBox(), typed);
             rowsShown = dialog->view()->model()->rowCount();
             QTest::keyClick(dialog->searchBox(), key);
             if (dialog->isVisible())

@@ -22,25 +22,14 @@ using namespace qd8::test;
 namespace {
 
 // Types as a keyboard would, Thai included (QTest::keyClicks knows Latin keys only).
-void type(QWidget* widget, const QString& text)
-{
-    for (QChar ch : text) {
-        QTest::sendKeyEvent(QTest::Press, widget, Qt::Key_unknown, QString(ch), Qt::NoModifier);
-        QTest::sendKeyEvent(QTest::Release, widget, Qt::Key_unknown, QString(ch), Qt::NoModifier);
-    }
-}
 
 // Goods in the order of TPiSort: Pencil (2), Notebook (3), Ballpoint Pen (1), Eraser (4);
 // item 5 is out of use and has no code.
-class PickListTest : public EngineTest {
+class PickListTest : public ScratchTableTest {
 protected:
-    void SetUp() override
+    QStringList tableStatements() const override
     {
-        EngineTest::SetUp();
-        if (IsSkipped())
-            return;
-        db = std::make_unique<ScratchDatabase>(engine());
-        db->run({
+        return {
             QStringLiteral("CREATE TABLE QD8TPickItem (TPiID INTEGER PRIMARY KEY, TPiCode VARCHAR(20), TPiName VARCHAR(100), "
                            "TPiName2 VARCHAR(100), TPiPrice NUMERIC(19,4), TPiSort INTEGER, TPiFlag1 INTEGER)"),
             QStringLiteral("INSERT INTO QD8TPickItem VALUES (1, 'A001', 'ปากกาลูกลื่น', 'Ballpoint Pen', 12.5, 3, 1)"),
@@ -48,9 +37,8 @@ protected:
             QStringLiteral("INSERT INTO QD8TPickItem VALUES (3, 'B001', 'สมุดบันทึก', 'Notebook', 45, 2, 1)"),
             QStringLiteral("INSERT INTO QD8TPickItem VALUES (4, 'B002', 'ยางลบ', 'Eraser', NULL, 5, 1)"),
             QStringLiteral("INSERT INTO QD8TPickItem VALUES (5, NULL, 'กระดาษ A4', 'PAPER a4', 120, 4, 0)"),
-        });
+        };
     }
-    void TearDown() override { db.reset(); }
 
     PickRequest goods() const
     {
@@ -91,8 +79,6 @@ protected:
                      .arg(from)
                      .arg(to)});
     }
-
-    std::unique_ptr<ScratchDatabase> db;
 };
 
 TEST_P(PickListTest, ShowsTheDescribedColumnsInTheSourcesOrder)
@@ -176,7 +162,7 @@ TEST_P(PickListTest, TypingFiltersTheShownTextColumns)
 
     // Key by key, as a user types.
     dialog.searchBox()->clear();
-    type(dialog.searchBox(), QStringLiteral("not"));
+    typeText(dialog.searchBox(), QStringLiteral("not"));
     EXPECT_EQ(shownKeys(*dialog.model()), QStringList{"3"});
 }
 
@@ -201,7 +187,7 @@ TEST_P(PickListTest, KeysPickAndCancel)
             QDialog::Accepted, "3"},
         {"Enter on a search's first match",
             [](PickListDialog& d) {
-                type(d.searchBox(), QStringLiteral("ยาง"));
+                typeText(d.searchBox(), QStringLiteral("ยาง"));
                 QTest::keyClick(d.searchBox(), Qt::Key_Return);
             },
             QDialog::Accepted, "4"},
@@ -228,7 +214,7 @@ TEST_P(PickListTest, KeysPickAndCancel)
             QDialog::Rejected, ""},
         {"Enter with nothing matching stays",
             [](PickListDialog& d) {
-                type(d.searchBox(), QStringLiteral("zzz"));
+                typeText(d.searchBox(), QStringLiteral("zzz"));
                 QTest::keyClick(d.searchBox(), Qt::Key_Return);
             },
             QDialog::Rejected, "", true},
@@ -259,10 +245,10 @@ TEST_P(PickListTest, PickRunsModallyAndReturnsTheKeyAsText)
             keys(*dialog);
         });
     };
-    answer([](PickListDialog& d) { type(d.searchBox(), QStringLiteral("note")); QTest::keyClick(d.searchBox(), Qt::Key_Return); });
+    answer([](PickListDialog& d) { typeText(d.searchBox(), QStringLiteral("note")); QTest::keyClick(d.searchBox(), Qt::Key_Return); });
     EXPECT_EQ(PickListDialog::pick(request), QStringLiteral("B001"));
 
-    answer([](PickListDialog& d) { type(d.searchBox(), QStringLiteral("กระดาษ")); QTest::keyClick(d.searchBox(), Qt::Key_Return); });
+    answer([](PickListDialog& d) { typeText(d.searchBox(), QStringLiteral("กระดาษ")); QTest::keyClick(d.searchBox(), Qt::Key_Return); });
     EXPECT_EQ(PickListDialog::pick(request), QString());
 
     answer([](PickListDialog& d) { QTest::keyClick(d.searchBox(), Qt::Key_Escape); });
@@ -301,7 +287,7 @@ TEST_P(PickListTest, BadRequestsShowTheirReasonInsideTheDialog)
         EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [&](QLabel* l) { return l->isVisible() && l->text() == dialog.errorText(); }));
         EXPECT_EQ(dialog.model()->rowCount(), c.rows);
 
-        type(dialog.searchBox(), QStringLiteral("a"));
+        typeText(dialog.searchBox(), QStringLiteral("a"));
         QTest::keyClick(dialog.searchBox(), Qt::Key_Return);
         EXPECT_EQ(dialog.isVisible(), c.rows == 0);
         QTest::keyClick(dialog.searchBox(), Qt::Key_Escape);
