@@ -313,7 +313,13 @@ GridEditor::GridEditor(QWidget* parent)
     });
 }
 
-GridEditor::~GridEditor() = default;
+GridEditor::~GridEditor()
+{
+    // The view and model die with the QWidget base, after this object stopped being a
+    // GridEditor: nothing they signal on the way out may reach it.
+    d->model->disconnect(this);
+    d->view->removeEventFilter(this);
+}
 
 int GridEditor::Row() const
 {
