@@ -103,4 +103,28 @@ int runAndReport(int argc, char** argv, const std::vector<Ratio>& ratios)
     return 0;
 }
 
+int runOnEngines(int argc, char** argv, const std::function<void(BenchDatabase&)>& fill,
+    const std::function<void(const EngineRun&, std::vector<Ratio>&)>& define)
+{
+    std::vector<Ratio> ratios;
+    std::unique_ptr<BenchDatabase> sqlite = BenchDatabase::sqlite();
+    fill(*sqlite);
+    define({sqlite.get(), QStringLiteral("sqlite/"), QStringLiteral("SQLite")}, ratios);
+    std::unique_ptr<BenchDatabase> postgres = BenchDatabase::postgres();
+    if (postgres) {
+        fill(*postgres);
+        define({postgres.get(), QStringLiteral("postgres/"), QStringLiteral("PostgreSQL")}, ratios);
+    }
+    return runAndReport(argc, argv, ratios);
+}
+
+benchmark::internal::Benchmark* registerOn(const EngineRun& run, const char* name,
+    void (*fn)(benchmark::State&, const BenchDatabase*), int repetitions)
+{
+    return benchmark::RegisterBenchmark((run.prefix + QLatin1String(name)).toStdString().c_str(), fn,
+        static_cast<const BenchDatabase*>(run.db))
+        ->Unit(benchmark::kMillisecond)
+        ->Repetitions(repetitions);
+}
+
 } // namespace qd8::bench

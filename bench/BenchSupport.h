@@ -38,4 +38,21 @@ struct Ratio {
 //   title: ours 12.3 ms, floor 10.1 ms, ratio 1.22 (target <= 2.0)
 int runAndReport(int argc, char** argv, const std::vector<Ratio>& ratios);
 
+// One engine's share of a data benchmark: its database (already holding what `fill` put
+// there) and the prefix its benchmark names take ("sqlite/", "postgres/").
+struct EngineRun {
+    BenchDatabase* db;
+    QString prefix;
+    QString title;  // "SQLite", "PostgreSQL"
+};
+
+// Creates a database per engine (PostgreSQL only with a server), fills it, lets `define`
+// register the benchmarks and ratios of each, runs them and reports.
+int runOnEngines(int argc, char** argv, const std::function<void(BenchDatabase&)>& fill,
+    const std::function<void(const EngineRun&, std::vector<Ratio>&)>& define);
+
+// Registers fn(state, db) under prefix + name, timed in milliseconds, `repetitions` times.
+benchmark::internal::Benchmark* registerOn(const EngineRun& run, const char* name,
+    void (*fn)(benchmark::State&, const BenchDatabase*), int repetitions);
+
 } // namespace qd8::bench

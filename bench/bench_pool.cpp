@@ -13,7 +13,6 @@ using namespace qd8::bench;
 namespace {
 
 constexpr int Lookups = 1000;
-std::unique_ptr<BenchDatabase> sqliteDb, postgresDb;
 
 void fill(const BenchDatabase& db)
 {
@@ -61,21 +60,10 @@ void openPerLookup(benchmark::State& state, const BenchDatabase* db)
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
-    std::vector<Ratio> ratios;
-    sqliteDb = BenchDatabase::sqlite();
-    fill(*sqliteDb);
-    benchmark::RegisterBenchmark("sqlite/held_open", heldOpen, sqliteDb.get())->Unit(benchmark::kMillisecond)->MinTime(0.3)->Repetitions(5);
-    benchmark::RegisterBenchmark("sqlite/open_per_lookup", openPerLookup, sqliteDb.get())->Unit(benchmark::kMillisecond)->MinTime(0.3)->Repetitions(5);
-    ratios.push_back({"SQLite, 1000 lookups opening per operation", "sqlite/open_per_lookup", "sqlite/held_open", 1.2});
-    postgresDb = BenchDatabase::postgres();
-    if (postgresDb) {
-        fill(*postgresDb);
-        benchmark::RegisterBenchmark("postgres/held_open", heldOpen, postgresDb.get())->Unit(benchmark::kMillisecond)->MinTime(0.3)->Repetitions(5);
-        benchmark::RegisterBenchmark("postgres/open_per_lookup", openPerLookup, postgresDb.get())->Unit(benchmark::kMillisecond)->MinTime(0.3)->Repetitions(5);
-        ratios.push_back({"PostgreSQL, 1000 lookups opening per operation", "postgres/open_per_lookup", "postgres/held_open", 1.2});
-    }
-    const int rc = runAndReport(argc, argv, ratios);
-    sqliteDb.reset();
-    postgresDb.reset();
-    return rc;
+    return runOnEngines(argc, argv, fill, [](const EngineRun& run, std::vector<Ratio>& ratios) {
+        registerOn(run, "held_open", heldOpen, 5)->MinTime(0.3);
+        registerOn(run, "open_per_lookup", openPerLookup, 5)->MinTime(0.3);
+        ratios.push_back({run.title + QStringLiteral(", 1000 lookups opening per operation"), run.prefix + "open_per_lookup",
+            run.prefix + "held_open", 1.2});
+    });
 }

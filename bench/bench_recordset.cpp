@@ -17,7 +17,6 @@ namespace {
 
 constexpr int Rows = 100000;
 const char* const Select = "SELECT * FROM QD8TBenchDoc";
-std::unique_ptr<BenchDatabase> sqliteDb, postgresDb;
 
 void fill(const BenchDatabase& db)
 {
@@ -108,25 +107,13 @@ void rawLibpq(benchmark::State& state, const BenchDatabase* db)
 int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
-    std::vector<Ratio> ratios;
-    sqliteDb = BenchDatabase::sqlite();
-    fill(*sqliteDb);
-    benchmark::RegisterBenchmark("sqlite/raw_c_api", rawSqlite, sqliteDb.get())->Unit(benchmark::kMillisecond)->Repetitions(3);
-    benchmark::RegisterBenchmark("sqlite/recordset", recordsetByIndex, sqliteDb.get())->Unit(benchmark::kMillisecond)->Repetitions(3);
-    benchmark::RegisterBenchmark("sqlite/recordset_by_name", recordsetByName, sqliteDb.get())->Unit(benchmark::kMillisecond)->Repetitions(3);
-    ratios.push_back({"SQLite, static recordset 100000 x 12", "sqlite/recordset", "sqlite/raw_c_api", 2.0});
-    ratios.push_back({"SQLite, same, fields by name", "sqlite/recordset_by_name", "sqlite/raw_c_api", 2.0});
-    postgresDb = BenchDatabase::postgres();
-    if (postgresDb) {
-        fill(*postgresDb);
-        benchmark::RegisterBenchmark("postgres/raw_libpq", rawLibpq, postgresDb.get())->Unit(benchmark::kMillisecond)->Repetitions(3);
-        benchmark::RegisterBenchmark("postgres/recordset", recordsetByIndex, postgresDb.get())->Unit(benchmark::kMillisecond)->Repetitions(3);
-        benchmark::RegisterBenchmark("postgres/recordset_by_name", recordsetByName, postgresDb.get())->Unit(benchmark::kMillisecond)->Repetitions(3);
-        ratios.push_back({"PostgreSQL, static recordset 100000 x 12", "postgres/recordset", "postgres/raw_libpq", 2.0});
-        ratios.push_back({"PostgreSQL, same, fields by name", "postgres/recordset_by_name", "postgres/raw_libpq", 2.0});
-    }
-    const int rc = runAndReport(argc, argv, ratios);
-    sqliteDb.reset();
-    postgresDb.reset();
-    return rc;
+    return runOnEngines(argc, argv, fill, [](const EngineRun& run, std::vector<Ratio>& ratios) {
+        const bool postgres = run.db->isPostgres();
+        const QString floor = run.prefix + (postgres ? "raw_libpq" : "raw_c_api");
+        registerOn(run, postgres ? "raw_libpq" : "raw_c_api", postgres ? rawLibpq : rawSqlite, 3);
+        registerOn(run, "recordset", recordsetByIndex, 3);
+        registerOn(run, "recordset_by_name", recordsetByName, 3);
+        ratios.push_back({run.title + QStringLiteral(", static recordset 100000 x 12"), run.prefix + "recordset", floor, 2.0});
+        ratios.push_back({run.title + QStringLiteral(", same, fields by name"), run.prefix + "recordset_by_name", floor, 2.0});
+    });
 }
