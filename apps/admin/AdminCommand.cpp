@@ -1,4 +1,5 @@
 #include "AdminCommand.h"
+#include "SampleFiles.h"
 
 #include "database/Schema.h"
 #include "foundation/ConnectionPool.h"
@@ -21,17 +22,33 @@ QString option(const QStringList& arguments, const QString& name)
     return at >= 0 && at + 1 < arguments.size() ? arguments[at + 1] : QString();
 }
 
+// The arguments that are neither options nor the value of an option.
+QStringList positionalArguments(const QStringList& arguments)
+{
+    static const QStringList withValue = {"--app", "--center", "--data", "--files", "--role"};
+    QStringList positional;
+    for (qsizetype i = 0; i < arguments.size(); ++i) {
+        if (withValue.contains(arguments[i]))
+            ++i;
+        else if (!arguments[i].startsWith(QLatin1String("--")))
+            positional << arguments[i];
+    }
+    return positional;
+}
+
 } // namespace
 
 int AdminCommand::usage()
 {
     m_err << "usage:\n"
-             "  qd8-admin init DIR [--force]\n"
+             "  qd8-admin init DIR [--files FILES] [--force]\n"
              "      creates QD8Command.dat, QD8Center.dat and QD8Data.dat (SQLite) in DIR with the schema\n"
-             "      and the sample company\n"
-             "  qd8-admin init --app CONN --center CONN --data CONN [--force]\n"
+             "      and the sample company, and writes the files of the sample installation beside them\n"
+             "      (or in FILES): Icons/ (the catalogue's icons), Support/Theme/Theme.ini, QD8STARTUP.INI\n"
+             "  qd8-admin init --app CONN --center CONN --data CONN [--files DIR] [--force]\n"
              "      the same on the databases the connection strings name (PostgreSQL databases are\n"
-             "      created when missing)\n"
+             "      created when missing); the files of the installation go to DIR when given\n"
+             "  --force replaces databases and files that exist\n"
              "  qd8-admin check CONN [--role app|center|data]\n"
              "      reports the tables, views and columns the database lacks\n";
     m_err.flush();
@@ -60,6 +77,12 @@ int AdminCommand::run(const QStringList& arguments)
 int AdminCommand::init(const QStringList& arguments)
 {
     const bool force = arguments.contains(QLatin1String("--force"));
+    QString filesDir = option(arguments, QStringLiteral("--files"));
+    if (arguments.contains(QLatin1String("--files")) && (filesDir.isEmpty() || filesDir.startsWith(QLatin1String("--")))) {
+        m_err << "qd8-admin init: --files needs a folder\n";
+        return usage();
+    }
+    const QStringList positional = positionalArguments(arguments);
     QStringList connectionStrings;
     if (arguments.contains(QLatin1String("--app"))) {
         for (const char* key : {"--app", "--center", "--data"}) {
@@ -70,12 +93,13 @@ int AdminCommand::init(const QStringList& arguments)
             }
             connectionStrings << cs;
         }
-        return initDatabases(connectionStrings, force);
+        if (!positional.isEmpty())
+            return usage();
+        if (!filesDir.isEmpty() && !mayWriteFiles(filesDir, force))
+            return 1;
+        const int status = initDatabases(connectionStrings, force);
+        return status != 0 || filesDir.isEmpty() ? status : writeFiles(filesDir);
     }
-    QStringList positional;
-    for (const QString& a : arguments)
-        if (!a.startsWith(QLatin1String("--")))
-            positional << a;
     if (positional.size() != 1)
         return usage();
     QDir dir(positional[0]);
@@ -83,19 +107,58 @@ int AdminCommand::init(const QStringList& arguments)
         m_err << "qd8-admin init: cannot create the folder " << dir.path() << '\n';
         return 1;
     }
+    if (filesDir.isEmpty())
+        filesDir = dir.path();
     for (DatabaseRole role : Roles) {
         const QString file = dir.absoluteFilePath(Schema::fileName(role));
-        if (QFileInfo::exists(file)) {
-            if (!force) {
-                m_err << "qd8-admin init: " << file << " already exists (use --force to create it anew)\n";
-                return 1;
-            }
-            for (const QString& suffix : {QString(), QStringLiteral("-wal"), QStringLiteral("-shm")})
-                QFile::remove(file + suffix);
+        if (QFileInfo::exists(file) && !force) {
+            m_err << "qd8-admin init: " << file << " already exists (use --force to create it anew)\n";
+            return 1;
         }
+    }
+    if (!mayWriteFiles(filesDir, force))
+        return 1;
+    for (DatabaseRole role : Roles) {
+        const QString file = dir.absoluteFilePath(Schema::fileName(role));
+        for (const QString& suffix : {QString(), QStringLiteral("-wal"), QStringLiteral("-shm")})
+            QFile::remove(file + suffix);
         connectionStrings << QStringLiteral("Driver=SQLite;Data Source=%1").arg(file);
     }
-    return initDatabases(connectionStrings, false);
+    const int status = initDatabases(connectionStrings, false);
+    return status != 0 ? status : writeFiles(filesDir);
+}
+
+bool AdminCommand::mayWriteFiles(const QString& dir, bool force)
+{
+    if (force)
+        return true;
+    // The icons are ours to replace; the settings files may hold an installation's edits.
+    const QDir root(dir);
+    for (const QString& path : SampleFiles::relativePaths()) {
+        if (path.startsWith(QLatin1String("Icons/")) || !QFileInfo::exists(root.filePath(path)))
+            continue;
+        m_err << "qd8-admin init: " << QDir::toNativeSeparators(root.absoluteFilePath(path))
+              << " already exists (use --force to write it anew)\n";
+        m_err.flush();
+        return false;
+    }
+    return true;
+}
+
+int AdminCommand::writeFiles(const QString& dir)
+{
+    QElapsedTimer timer;
+    timer.start();
+    QString error;
+    if (!SampleFiles::write(dir, &error)) {
+        m_err << "qd8-admin init: " << error << '\n';
+        m_err.flush();
+        return 1;
+    }
+    m_out << "Sample files written to " << QDir::toNativeSeparators(QDir(dir).absolutePath()) << " in " << timer.elapsed()
+          << " ms: " << SampleFiles::iconCount() << " icons in Icons, Support/Theme/Theme.ini, QD8STARTUP.INI\n";
+    m_out.flush();
+    return 0;
 }
 
 int AdminCommand::initDatabases(const QStringList& connectionStrings, bool force)

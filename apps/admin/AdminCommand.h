@@ -5,8 +5,9 @@
 
 namespace qd8 {
 
-// qd8-admin: creates the three databases with the schema and the sample company, and
-// checks a database against the schema. Returns the process exit code: 0 done, 1 the
+// qd8-admin: creates the three databases with the schema and the sample company (and the
+// files of the sample installation: icons, theme and startup settings), and checks a
+// database against the schema. Returns the process exit code: 0 done, 1 the
 // check found problems or an operation failed, 2 the command line is wrong.
 class AdminCommand {
 public:
@@ -18,6 +19,9 @@ private:
     int check(const QStringList& arguments);
     int usage();
     int initDatabases(const QStringList& connectionStrings, bool force);
+    // Refuses files that exist unless forced; true when the files may be written.
+    bool mayWriteFiles(const QString& dir, bool force);
+    int writeFiles(const QString& dir);
 
     QTextStream& m_out;
     QTextStream& m_err;
