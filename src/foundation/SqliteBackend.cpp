@@ -4,6 +4,7 @@
 #include "foundation/DbError.h"
 #include "foundation/ThaiCollation.h"
 
+#include <QFileInfo>
 #include <QDate>
 #include <QDateTime>
 #include <sqlite3.h>
@@ -274,15 +275,32 @@ SqliteBackend::SqliteBackend(const ConnectionString& cs)
         m_db = nullptr;
         throw DbError(DbError::Kind::Connection, QStringLiteral("Cannot register the THAI collation (ICU th_TH missing)"));
     }
-    if (!readOnly) {
-        try {
+    try {
+        if (!readOnly) {
             run("PRAGMA journal_mode=WAL");
             run("PRAGMA synchronous=NORMAL");
-        } catch (...) {
-            sqlite3_close_v2(m_db);
-            m_db = nullptr;
-            throw;
         }
+        attach(cs.value({"attach"}));
+    } catch (...) {
+        sqlite3_close_v2(m_db);
+        m_db = nullptr;
+        throw;
+    }
+}
+
+void SqliteBackend::attach(const QString& files)
+{
+    // "Attach=file[,file...]": other databases of the installation whose tables statements
+    // on this connection name unqualified, such as the catalogue beside the session tables.
+    // SQLite looks for an unqualified name in the main database first, then in these.
+    int number = 0;
+    for (const QString& item : files.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        const QString file = item.trimmed();
+        if (!QFileInfo::exists(file))
+            throw DbError(DbError::Kind::Connection, QStringLiteral("Cannot attach the database file \"%1\": it does not exist").arg(file));
+        QString literal = file;
+        literal.replace(QLatin1Char('\''), QStringLiteral("''"));
+        run(QStringLiteral("ATTACH DATABASE '%1' AS attached%2").arg(literal).arg(++number).toUtf8().constData());
     }
 }
 

@@ -35,6 +35,7 @@ private:
     void finish(sqlite3_stmt* stmt, const QString& sql);
     [[noreturn]] void fail(const QString& sql) const;
     void run(const char* sql);
+    void attach(const QString& files);
 
     sqlite3* m_db = nullptr;
     QHash<QString, sqlite3_stmt*> m_cache;

@@ -160,4 +160,25 @@ TEST_P(ConnectionTest, MoneyAndDatesComeBackAsTheirOwnTypes)
 
 QD8_ON_BOTH_ENGINES(ConnectionTest);
 
+TEST(SqliteAttach, AttachedDatabasesAnswerUnqualifiedNamesAndAMissingOneRefusesTheConnection)
+{
+    ScratchDatabase session(Engine::SQLite, "QD8Data.dat"), catalogue(Engine::SQLite, "Q'D8Command.dat");
+    session.run({"CREATE TABLE QD8TSession (TSsID INTEGER)", "INSERT INTO QD8TSession VALUES (1)"});
+    catalogue.run({"CREATE TABLE QD8TCatalogue (TCaID INTEGER)", "INSERT INTO QD8TCatalogue VALUES (2)"});
+    const QString file = catalogue.connectionString().section('=', -1);
+    Connection c;
+    c.open(session.connectionString() + ";Attach=" + file);
+    Recordset rs;
+    rs.open("SELECT TSsID, TCaID FROM QD8TSession, QD8TCatalogue", c);
+    EXPECT_EQ(rs.field("TCaID").toInt(), 2);
+    Connection missing;
+    try {
+        missing.open(session.connectionString() + ";Attach=" + file + ",/nonexistent/QD8Command.dat");
+        FAIL() << "a missing file was attached";
+    } catch (const DbError& error) {
+        EXPECT_EQ(error.kind(), DbError::Kind::Connection);
+        EXPECT_TRUE(error.message().contains("/nonexistent/QD8Command.dat"));
+    }
+}
+
 } // namespace
