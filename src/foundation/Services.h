@@ -3,6 +3,7 @@
 #include "foundation/PickRequest.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace qd8 {
 
@@ -25,6 +26,9 @@ public:
     virtual ~PickerService() = default;
     // The key field's value of the picked row, or "" when nothing was picked.
     virtual QString pick(const PickRequest& request) = 0;
+    // A choice among a few fixed entries (a theme, a language): the index chosen, or -1
+    // when the user cancelled. `current` is the entry selected when the choice opens.
+    virtual int choose(const QString& title, const QStringList& entries, int current) = 0;
 };
 
 class ShellService {

@@ -17,6 +17,7 @@ public:
 class DialogPickerService : public PickerService {
 public:
     QString pick(const PickRequest& request) override;
+    int choose(const QString& title, const QStringList& entries, int current) override;
 };
 
 class QtShellService : public ShellService {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "database/Schema.h"
+#include "support/QtPrinters.h"
 #include "foundation/ConnectionString.h"
 
 #include <QTemporaryDir>

@@ -24,6 +24,12 @@ bool ScriptedMessages::question(const QString& title, const QString& text)
     return answers.takeFirst();
 }
 
+int ScriptedPicker::choose(const QString& title, const QStringList&, int)
+{
+    choiceTitles << title;
+    return choices.isEmpty() ? -1 : choices.takeFirst();
+}
+
 QString ScriptedPicker::pick(const PickRequest& request)
 {
     requests.append(request);

@@ -30,10 +30,14 @@ class ScriptedPicker : public PickerService {
 public:
     // Answers from the queue; "" (nothing picked) once it is empty.
     QString pick(const PickRequest& request) override;
+    // Answers from `choices`; -1 (cancelled) once it is empty.
+    int choose(const QString& title, const QStringList& entries, int current) override;
 
     QStringList answers;
     QList<PickRequest> requests;
-    void reset() { answers.clear(); requests.clear(); }
+    QList<int> choices;
+    QStringList choiceTitles;
+    void reset() { answers.clear(); requests.clear(); choices.clear(); choiceTitles.clear(); }
 };
 
 class ScriptedShell : public ShellService {
