@@ -27,6 +27,8 @@ public:
 
     // The setting as stored (user first, then user 0); null when neither has it.
     static QString userSettingText(qint32 userId, const QString& name, const QString& connectionString);
+    // Stores the user's own value of a setting (the template user 0 is not touched).
+    static void storeUserSetting(qint32 userId, const QString& name, const QString& value, const QString& connectionString);
 };
 
 } // namespace qd8

@@ -35,4 +35,10 @@ inline QString withTrailingBackslash(const QString& path)
     return path.endsWith(QLatin1Char('\\')) ? path : path + QLatin1Char('\\');
 }
 
+// A path as the suite writes it ("\" joins) turned into one this machine can open.
+inline QString localPath(QString path)
+{
+    return path.replace(QLatin1Char('\\'), QLatin1Char('/'));
+}
+
 } // namespace qd8

@@ -1,0 +1,219 @@
+#include "navigation/NavigationTest.h"
+
+#include "database/SessionFunctions.h"
+#include "foundation/Connection.h"
+#include "foundation/Recordset.h"
+#include "navigation/NUVRibbon.h"
+#include "navigation/OemSettings.h"
+#include "widgets/FormRegistry.h"
+#include "widgets/Ribbon.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QToolButton>
+
+using namespace qd8;
+using namespace qd8::test;
+
+namespace {
+
+class NUVRibbonTest : public NavigationTest {
+protected:
+    void SetUp() override
+    {
+        NavigationTest::SetUp();
+        QObject::connect(&ribbon, &NUVRibbon::Lunch, [this](QString& alias) { launched << alias; });
+    }
+    QStringList buttons(const char* tab, const char* group) const
+    {
+        return ribbon.ribbon()->buttonKeys(QString::fromLatin1(tab), QString::fromLatin1(group));
+    }
+    NUVRibbon ribbon;
+    QStringList launched;
+};
+
+TEST_P(NUVRibbonTest, CatalogueTabsHoldTheThreeCommandSets)
+{
+    attach(ribbon, 1);
+    ribbon.Refresh();
+    EXPECT_EQ(buttons("MODULE", "MAINCOMMAND"), (QStringList{"TSTJ", "TSTA", "TSTB", "TSTI"}));
+    EXPECT_EQ(buttons("GROUP", "FREQUENCY"), (QStringList{"TSTI", "TSTA"}));
+    EXPECT_EQ(buttons("USERCOMMAND", "USERCOMMAND"), (QStringList{"TSTB", "TSTA"}));
+    EXPECT_EQ(ribbon.ribbon()->tabCaption("MODULE"), "Module");
+    EXPECT_EQ(ribbon.ribbon()->groupCaption("MODULE", "MAINCOMMAND"), "Main Module Command");
+    EXPECT_EQ(ribbon.ribbon()->tabCaption("GROUP"), "Group");
+    EXPECT_EQ(ribbon.ribbon()->groupCaption("GROUP", "FREQUENCY"), "Frequency Command");
+    EXPECT_EQ(ribbon.ribbon()->button("TSTB")->text(), "บี && ซี");
+    EXPECT_EQ(ribbon.ribbon()->button("TSTB")->toolTip(), "บี && ซี");
+
+    // A refresh replaces the buttons instead of adding to them.
+    ribbon.Refresh();
+    EXPECT_EQ(buttons("MODULE", "MAINCOMMAND").size(), 4);
+    ribbon.ribbon()->button("TSTA")->click();
+    EXPECT_EQ(launched, QStringList{"TSTA"});
+}
+
+TEST_P(NUVRibbonTest, APickedThemeIsStoredAppliedAndAnnounced)
+{
+    attach(ribbon, 1);
+    ribbon.Refresh();
+    QList<std::pair<int, QObject*>> changes;
+    QObject::connect(&ribbon, &NUVRibbon::ThemeChange, [&](int theme, QObject* hosted) { changes.append({theme, hosted}); });
+    scriptedPicker().choices = {2, -1};
+    ribbon.buttonClick("theme");
+    ribbon.buttonClick("THEME");  // cancelled: nothing changes
+    ASSERT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes[0].first, 2);
+    EXPECT_EQ(changes[0].second, ribbon.ribbon());
+    EXPECT_EQ(ribbon.ribbon()->theme(), 2);
+    EXPECT_EQ(ribbon.BackColor(), Ribbon::themes()[2].background);
+    EXPECT_EQ(DbSessionFunctions::userSettingText(1, "RibbonTheme", dataConnectionString()), "2");
+
+    NUVRibbon next;
+    attach(next, 1);
+    next.Refresh();
+    EXPECT_EQ(next.ribbon()->theme(), 2);
+}
+
+TEST_P(NUVRibbonTest, RemovingPicksFromTheTemplateUsersListAndDeletesForTheSessionUser)
+{
+    attach(ribbon, 1);
+    ribbon.Refresh();
+    scriptedPicker().answers = {QStringLiteral("9002")};
+    ribbon.mnuDelete_click();
+    EXPECT_EQ(buttons("USERCOMMAND", "USERCOMMAND"), QStringList{"TSTA"});
+    const PickRequest& request = scriptedPicker().requests.first();
+    EXPECT_EQ(request.title, "เลือกคำสั่งที่ต้องการลบ");
+    EXPECT_EQ(request.keyField, "TUscTCmdID");
+    EXPECT_EQ(request.fieldList, "TUscTCmdID,TCmdName");
+    EXPECT_EQ(request.captionList, "ID,โมดูล,คำสั่ง");
+    EXPECT_EQ(request.widthList, "0,6860");
+    EXPECT_EQ(request.typeList, "0,0");
+    EXPECT_EQ(request.source,
+        "(SELECT QD8TUserCommand.*, QD8TCommand.* FROM QD8TUserCommand LEFT JOIN QD8TCommand ON QD8TUserCommand.TUsCTCmdID = "
+        "QD8TCommand.TCmdID WHERE (((QD8TUserCommand.TUsCTUsrID)=0)))  A ORDER BY TCmdName");
+    EXPECT_EQ(request.connectionString, dataConnectionString());
+
+    // On SQLite the session connection reaches the catalogue it joins by attaching it.
+    if (engine() == Engine::SQLite) {
+        Connection session;
+        session.open(dataConnectionString() + ";Attach=" + appConnectionString().section('=', -1));
+        Recordset rs;
+        rs.open(Sql("SELECT ") + request.fieldList + " FROM " + request.source, session);
+        QStringList names;
+        for (; !rs.eof(); rs.moveNext())
+            names << rs.text("TCmdName");
+        EXPECT_FALSE(names.isEmpty());
+        EXPECT_FALSE(names.contains("บี && ซี"));  // user 1's own commands are not offered
+    }
+
+    scriptedPicker().answers = {QStringLiteral("9010")};
+    ribbon.mnuAdd_click();
+    EXPECT_EQ(buttons("USERCOMMAND", "USERCOMMAND"), (QStringList{"TSTA", "TSTJ"}));
+}
+
+QD8_ON_BOTH_ENGINES(NUVRibbonTest);
+
+TEST(NUVRibbonContent, FixedTabsKeepTheirGroupsKeysAndCaptions)
+{
+    NUVRibbon ribbon;
+    Ribbon* r = ribbon.ribbon();
+    EXPECT_EQ(r->tabKeys(), (QStringList{"MODULE", "GROUP", "USERCOMMAND", "STANDARD", "ORGANIZER", "HELP"}));
+    EXPECT_EQ(r->groupKeys("HELP"), (QStringList{"THEME", "CONTENT", "FREESERVICE", "DOWNLOAD", "ABOUT", "CONTACT", "PREMIERE"}));
+    EXPECT_EQ(r->groupKeys("STANDARD"), (QStringList{"CLIPBOARD", "TOOLS", "INTERNET"}));
+    EXPECT_EQ(r->groupKeys("ORGANIZER"), (QStringList{"ASSISTANT", "MESSAGE", "FOLDER", "PERSONNEL", "REQUEST", "USER"}));
+    EXPECT_EQ(r->groupCaption("HELP", "PREMIERE"), "Premeire Services");
+    EXPECT_EQ(r->groupCaption("ORGANIZER", "PERSONNEL"), "Pesonnel");
+    EXPECT_EQ(r->groupCaption("HELP", "FREESERVICE"), "Free Web Services");
+    const struct {
+        const char* tab;
+        const char* group;
+        QStringList keys;
+    } groups[] = {
+        {"HELP", "FREESERVICE", {"NEWS", "FAQ", "ELEARNING"}},
+        {"HELP", "PREMIERE", {"TECHNIC", "REMOTE", "COMMENT"}},
+        {"STANDARD", "INTERNET", {"BROWSER", "EMAIL", "CALENDAR", "UPLOAD"}},
+        {"ORGANIZER", "MESSAGE", {"SEARCH", "POST", "MESSAGE", "REMOVE"}},
+        {"ORGANIZER", "PERSONNEL", {"HRLEAVE", "HROT", "HRCHANGEWORKPERIOD"}},
+        {"ORGANIZER", "REQUEST", {"PURPR"}},
+    };
+    for (const auto& g : groups)
+        EXPECT_EQ(r->buttonKeys(g.tab, g.group), g.keys) << g.group;
+    EXPECT_EQ(r->button("SPECFOLDER")->text(), "Hard\ncopy");
+    EXPECT_EQ(r->button("REMOTE")->text(), "MSN &&\nRemote");
+}
+
+TEST(NUVRibbonContent, ButtonsActLocallyOrLaunchTheCatalogueCommand)
+{
+    QTemporaryDir app;
+    QDir(app.path()).mkpath("Support/Theme");
+    QFile ini(app.filePath("Support/Theme/Theme.ini"));
+    ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
+    ini.write("[OEM]\nOEMSHORTNAME=QD8\nWEBSITE=https://site.example/\nNEWSURL=https://news.example/\nSUPPORTEMAIL=help@site.example\nABOUT=QD8 Business Suite 2\n");
+    ini.close();
+    NUVRibbon ribbon;
+    ribbon.setAppPath(app.path());
+    ribbon.setSystemFolder("C:\\QD8");
+    const struct {
+        const char* key;
+        const char* effect;
+    } cases[] = {
+        {"CALC", "run:Calc.exe:0"},
+        {"news", "url:https://news.example/"},
+        {"FAQ", "url:https://site.example/"},
+        {"CUSTOMERSERVICE", "url:https://site.example/"},
+        {"WEBSITE", "url:https://site.example/"},
+        {"BROWSER", "url:https://site.example/"},
+        {"EMAIL", "url:mailto:help@site.example"},
+        {"CONTENT", "run:C:\\QD8\\QD8help.exe:0"},
+        {"VIDEO", "run:C:\\QD8\\QD8help.exe:0"},
+    };
+    for (const auto& c : cases) {
+        scriptedShell().reset();
+        ribbon.buttonClick(c.key);
+        EXPECT_EQ(scriptedShell().commands, QStringList{c.effect}) << c.key;
+    }
+    ribbon.buttonClick("ABOUT");
+    ribbon.buttonClick("IMAGEFOLDER");
+    const auto& shown = scriptedMessages().shown;
+    ASSERT_EQ(shown.size(), 2);
+    EXPECT_EQ(shown[0].title, "QD8");
+    EXPECT_EQ(shown[0].text, "QD8 Business Suite 2");
+    EXPECT_EQ(shown[1].text, "ไม่ได้กำหนด Image folder");
+    EXPECT_EQ(shown[1].title, "System Configuration");
+
+    // Clipboard keys go to the focused widget as keystrokes.
+    QLineEdit edit;
+    edit.setText("copy me");
+    edit.show();
+    QApplication::setActiveWindow(&edit);
+    edit.setFocus();
+    edit.selectAll();
+    ribbon.buttonClick("CUT");
+    QApplication::processEvents();
+    EXPECT_EQ(edit.text(), "");
+    ribbon.buttonClick("PASTE");
+    QApplication::processEvents();
+    EXPECT_EQ(edit.text(), "copy me");
+}
+
+TEST(NUVRibbonContent, FormButtonsOpenTheRegisteredFormOrSayItIsMissing)
+{
+    QPointer<QDialog> opened;
+    FormRegistry::registerForm(NUVRibbon::SearchForm, [&](QWidget* parent) { return opened = new QDialog(parent); });
+    NUVRibbon ribbon;
+    ribbon.buttonClick("SEARCH");
+    ASSERT_TRUE(opened);
+    EXPECT_TRUE(opened->isVisible());
+    EXPECT_EQ(opened->windowModality(), Qt::ApplicationModal);
+    opened->close();
+    FormRegistry::unregisterForm(NUVRibbon::SearchForm);
+    ribbon.buttonClick("POST");
+    ASSERT_EQ(scriptedMessages().shown.size(), 1);
+    EXPECT_TRUE(scriptedMessages().shown[0].text.contains("MemoEntry"));
+}
+
+} // namespace
