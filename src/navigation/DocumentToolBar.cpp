@@ -33,7 +33,7 @@ constexpr UtilityButton Utilities[] = {
     {QStyle::SP_DialogHelpButton, "Help"},
     {QStyle::SP_DesktopIcon, "Calculator"},
     {QStyle::SP_DirOpenIcon, "Image folder"},
-    {QStyle::SP_FileDialogDetailedView, "Specification folder"},
+    {QStyle::SP_FileDialogDetailedView, "Spec folder"},
     {QStyle::SP_FileDialogContentsView, "Report search"},
 };
 

@@ -8,7 +8,7 @@ namespace qd8 {
 
 // The one-row launcher of a module window: a toggle button that switches between the
 // user's, the module's and the main command set, up to fifteen command buttons filled
-// from the set, and five tool buttons (help, calculator, image folder, specification
+// from the set, and five tool buttons (help, calculator, image folder, spec
 // folder, report search).
 class DocumentToolBar : public ToolLauncher {
     Q_OBJECT

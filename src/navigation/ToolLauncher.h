@@ -5,7 +5,7 @@
 namespace qd8 {
 
 // A launcher with the suite's tool buttons beside the catalogue commands (the document
-// tool bar and the ribbon): help, calculator, the image and specification folders, and
+// tool bar and the ribbon): help, calculator, the image and spec folders, and
 // the installation's theme file with its OEM short name.
 class ToolLauncher : public CommandLauncher {
     Q_OBJECT

@@ -1,4 +1,5 @@
 #include "support/ScratchDatabase.h"
+#include "support/SampleCompany.h"
 
 #include "database/Schema.h"
 #include "foundation/Connection.h"
@@ -19,22 +20,6 @@ namespace {
 
 // Icons the catalogue names on purpose without shipping them: the launchers show "Blank".
 const QSet<QString> IconsMeantMissing = {QStringLiteral("SOPROMO.ico"), QStringLiteral("SOPROMO16.ico")};
-
-QString admin()
-{
-    const QString given = QString::fromLocal8Bit(qgetenv("QD8_ADMIN"));
-    return given.isEmpty() ? QCoreApplication::applicationDirPath() + QStringLiteral("/../apps/qd8-admin") : given;
-}
-
-int runAdmin(const QStringList& arguments, QString* output = nullptr)
-{
-    QProcess process;
-    process.start(admin(), arguments);
-    process.waitForFinished(120000);
-    if (output)
-        *output = QString::fromUtf8(process.readAllStandardOutput() + process.readAllStandardError());
-    return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-}
 
 // Every icon name of the catalogue with the size it is shown at.
 QList<QPair<QString, int>> catalogueIcons(const QString& appConnectionString)

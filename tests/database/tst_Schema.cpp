@@ -1,4 +1,5 @@
 #include "support/ScratchDatabase.h"
+#include "support/SampleCompany.h"
 
 #include "database/Schema.h"
 #include "foundation/Connection.h"
@@ -31,22 +32,6 @@ const char* const SuiteObjects[] = {
 };
 
 const DatabaseRole Roles[] = {DatabaseRole::Application, DatabaseRole::CommandCentre, DatabaseRole::CompanyData};
-
-QString admin()
-{
-    const QString given = QString::fromLocal8Bit(qgetenv("QD8_ADMIN"));
-    return given.isEmpty() ? QCoreApplication::applicationDirPath() + QStringLiteral("/../apps/qd8-admin") : given;
-}
-
-int runAdmin(const QStringList& arguments, QString* output = nullptr)
-{
-    QProcess process;
-    process.start(admin(), arguments);
-    process.waitForFinished(120000);
-    if (output)
-        *output = QString::fromUtf8(process.readAllStandardOutput() + process.readAllStandardError());
-    return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-}
 
 TEST(Schema, NamesEveryTableAndViewTheSuiteUses)
 {

@@ -6,6 +6,10 @@
 
 namespace qd8::test {
 
+// Runs qd8-admin (the build's own, or $QD8_ADMIN) and returns its exit code, -1 when it
+// crashed; *output receives what it printed.
+int runAdmin(const QStringList& arguments, QString* output = nullptr);
+
 // The three databases of the sample company (application, command centre, company data),
 // on the engine under test, created fresh for each test.
 class SampleCompanyTest : public EngineTest {
