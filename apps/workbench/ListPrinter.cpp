@@ -1,0 +1,104 @@
+#include "ListPrinter.h"
+
+#include "foundation/CommaList.h"
+#include "foundation/Connection.h"
+#include "foundation/DbError.h"
+#include "foundation/Recordset.h"
+#include "foundation/Values.h"
+
+#include <QDateTime>
+#include <QFileDialog>
+#include <QPrintDialog>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QTextDocument>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace qd8 {
+
+ListPrinter::ListPrinter(const QString& title, const QString& sql, const QString& captionList, const QString& connectionString)
+    : m_title(title)
+{
+    QString body;
+    const QStringList captions = splitList(captionList);
+    body += QStringLiteral("<tr>");
+    for (const QString& caption : captions)
+        body += QStringLiteral("<th>%1</th>").arg(caption.toHtmlEscaped());
+    body += QStringLiteral("</tr>");
+    try {
+        Connection c;
+        c.open(connectionString);
+        Recordset rs;
+        rs.open(Sql(sql), c);
+        for (; !rs.eof(); rs.moveNext(), ++m_rows) {
+            body += QStringLiteral("<tr>");
+            for (int column = 0; column < rs.fieldCount() && column < captions.size(); ++column)
+                body += QStringLiteral("<td>%1</td>").arg(text(rs.field(column)).toHtmlEscaped());
+            body += QStringLiteral("</tr>");
+        }
+    } catch (const DbError& error) {
+        body += QStringLiteral("<tr><td colspan=\"%1\">%2</td></tr>").arg(captions.size()).arg(error.message().toHtmlEscaped());
+    }
+    m_html = QStringLiteral("<html><body><h2>%1</h2><p>%2 — %3</p>"
+                            "<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\">%4</table></body></html>")
+                 .arg(title.toHtmlEscaped(), QDateTime::currentDateTime().toString(QStringLiteral("dd/MM/yyyy HH:mm")))
+                 .arg(m_rows)
+                 .arg(body);
+}
+
+QString ListPrinter::html() const
+{
+    return m_html;
+}
+
+void ListPrinter::render(QPrinter& printer) const
+{
+    QTextDocument document;
+    document.setHtml(m_html);
+    document.print(&printer);
+}
+
+bool ListPrinter::exportPdf(const QString& file) const
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(file);
+    printer.setDocName(m_title);
+    render(printer);
+    return true;
+}
+
+QWidget* ListPrinter::preview(QWidget* parent) const
+{
+    auto* window = new QWidget(parent, Qt::Window);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->setWindowTitle(m_title);
+    auto* printer = new QPrinter(QPrinter::HighResolution);
+    auto* view = new QPrintPreviewWidget(printer, window);
+    const ListPrinter copy = *this;
+    QObject::connect(view, &QPrintPreviewWidget::paintRequested, window, [copy](QPrinter* target) { copy.render(*target); });
+    auto* bar = new QToolBar(window);
+    bar->addAction(QStringLiteral("Print..."), window, [copy, window] {
+        QPrinter target(QPrinter::HighResolution);
+        QPrintDialog dialog(&target, window);
+        if (dialog.exec() == QDialog::Accepted)
+            copy.render(target);
+    });
+    bar->addAction(QStringLiteral("Export PDF..."), window, [copy, window] {
+        const QString file = QFileDialog::getSaveFileName(window, QStringLiteral("Export PDF"), copy.m_title + QStringLiteral(".pdf"),
+            QStringLiteral("PDF (*.pdf)"));
+        if (!file.isEmpty())
+            copy.exportPdf(file);
+    });
+    bar->addAction(QStringLiteral("Close"), window, &QWidget::close);
+    auto* layout = new QVBoxLayout(window);
+    layout->addWidget(bar);
+    layout->addWidget(view, 1);
+    QObject::connect(window, &QObject::destroyed, [printer] { delete printer; });
+    window->resize(900, 700);
+    window->show();
+    return window;
+}
+
+} // namespace qd8

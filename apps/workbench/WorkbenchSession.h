@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <stdexcept>
+
+namespace qd8 {
+
+// One user of the company as the login offers him.
+struct WorkbenchUser {
+    qint32 id = 0;
+    QString loginName;
+    QString name;   // in his own language
+    QString passwordHash;  // "sha256:<hex>", "" for none
+};
+
+// What the workbench hands every control: the company's databases, its folders and the
+// logged-in user.
+struct WorkbenchSession {
+    QString appConnectionString;    // the command catalogue (QD8Command.dat)
+    QString dataConnectionString;   // company data and session tables (QD8Data.dat)
+    QString sessionConnectionString;  // the data database with the catalogue reachable from it
+    QString appPath;                // installation folder: icons, theme and startup files
+    qint32 userId = 0;
+    QString loginName;
+    QString password;
+    int languageId = 0;
+
+    QString iconPath() const { return appPath + QStringLiteral("/Icons"); }
+    // A short name of the company database for the status bar.
+    QString companyName() const;
+
+    // The sample company in a folder, created with qd8-admin when it is not there yet.
+    // std::runtime_error when it cannot be created.
+    static WorkbenchSession sampleCompany(const QString& folder, const QString& adminProgram);
+    // The databases given by connection strings; `files` holds icons and INI files.
+    static WorkbenchSession fromConnectionStrings(const QString& app, const QString& data, const QString& files);
+
+    QList<WorkbenchUser> users() const;
+    // Logs the user in: true when the login name exists and the password matches.
+    bool logIn(const QString& loginName, const QString& password);
+    // The user's "LanguageID" setting, stored for him when `store` is set.
+    void setLanguage(int languageId, bool store);
+
+    static QString passwordHash(const QString& password);
+};
+
+} // namespace qd8

@@ -1,0 +1,452 @@
+#include "WorkbenchWindow.h"
+
+#include "ListPrinter.h"
+#include "database/AppObject.h"
+#include "database/ClientObject.h"
+#include "database/DataObject.h"
+#include "database/PermissionObject.h"
+#include "database/SessionFunctions.h"
+#include "database/SessionServices.h"
+#include "foundation/Connection.h"
+#include "foundation/ConnectionString.h"
+#include "foundation/DbError.h"
+#include "foundation/Recordset.h"
+#include "foundation/Services.h"
+#include "navigation/CommandCatalogue.h"
+#include "navigation/DocumentToolBar.h"
+#include "navigation/NUVRibbon.h"
+#include "navigation/ShortCutBar.h"
+#include "widgets/FormRegistry.h"
+#include "widgets/Ribbon.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QDockWidget>
+#include <QLabel>
+#include <QListWidget>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+#include <QWindow>
+
+namespace qd8 {
+
+namespace {
+
+QHash<QString, WorkbenchWindow::Deleter>& deleters()
+{
+    static QHash<QString, WorkbenchWindow::Deleter> registered;
+    return registered;
+}
+
+const char* CommandProperty = "qd8CommandAlias";
+
+} // namespace
+
+WorkbenchWindow::WorkbenchWindow(const WorkbenchSession& session, const QString& module, QWidget* parent)
+    : QMainWindow(parent)
+    , m_session(session)
+    , m_ribbon(new NUVRibbon(this))
+    , m_shortcuts(new ShortCutBar(this))
+    , m_toolBar(new DocumentToolBar(this))
+    , m_tabs(new QTabWidget(this))
+    , m_modules(new QComboBox(this))
+{
+    setWindowTitle(QStringLiteral("QD8 Workbench"));
+    setMenuWidget(m_ribbon);
+
+    auto* dockBody = new QWidget(this);
+    auto* dockLayout = new QVBoxLayout(dockBody);
+    dockLayout->setContentsMargins(2, 2, 2, 2);
+    dockLayout->addWidget(m_modules);
+    dockLayout->addWidget(m_shortcuts, 1);
+    auto* dock = new QDockWidget(this);
+    dock->setObjectName(QStringLiteral("shortcuts"));
+    dock->setFeatures(QDockWidget::DockWidgetMovable);
+    dock->setTitleBarWidget(new QWidget(dock));
+    dock->setWidget(dockBody);
+    dock->setMinimumWidth(200);
+    addDockWidget(Qt::LeftDockWidgetArea, dock);
+
+    auto* centre = new QWidget(this);
+    auto* centreLayout = new QVBoxLayout(centre);
+    centreLayout->setContentsMargins(0, 0, 0, 0);
+    centreLayout->addWidget(m_toolBar);
+    centreLayout->addWidget(m_tabs, 1);
+    m_tabs->setTabsClosable(true);
+    m_tabs->setDocumentMode(true);
+    setCentralWidget(centre);
+    connect(m_tabs, &QTabWidget::tabCloseRequested, this, [this](int index) { closeForm(m_tabs->widget(index)); });
+
+    buildStatusBar();
+    fillModules(module);
+    for (HostedControl* launcher : std::initializer_list<HostedControl*>{m_ribbon, m_shortcuts, m_toolBar})
+        connectEvents(launcher);
+    refreshLaunchers();
+    connect(m_modules, &QComboBox::currentIndexChanged, this, [this] { setModule(m_modules->currentData().toString()); });
+    m_shortcuts->listView(CommandSet::Main)->setFocus();
+    resize(1280, 800);
+}
+
+WorkbenchWindow::~WorkbenchWindow() = default;
+
+QString WorkbenchWindow::text(const char* thai, const char* english) const
+{
+    return QString::fromUtf8(m_session.languageId == 0 ? thai : english);
+}
+
+void WorkbenchWindow::registerDeleter(const QString& commandAlias, Deleter deleter)
+{
+    deleters().insert(commandAlias, std::move(deleter));
+}
+
+void WorkbenchWindow::buildStatusBar()
+{
+    m_userLabel = new QLabel(this);
+    m_companyLabel = new QLabel(this);
+    m_language = new QComboBox(this);
+    m_language->addItem(QStringLiteral("ไทย"), 0);
+    m_language->addItem(QStringLiteral("English"), 1);
+    m_language->setCurrentIndex(m_session.languageId == 0 ? 0 : 1);
+    connect(m_language, &QComboBox::currentIndexChanged, this, [this] { setLanguage(m_language->currentData().toInt()); });
+    statusBar()->addPermanentWidget(m_userLabel);
+    statusBar()->addPermanentWidget(m_companyLabel);
+    statusBar()->addPermanentWidget(m_language);
+    updateStatusLabels();
+}
+
+void WorkbenchWindow::updateStatusLabels()
+{
+    QString name = m_session.loginName;
+    for (const WorkbenchUser& user : m_session.users())
+        if (user.id == m_session.userId)
+            name = user.loginName + QStringLiteral(" — ") + user.name;
+    m_userLabel->setText(text("ผู้ใช้: ", "User: ") + name);
+    m_companyLabel->setText(text("ฐานข้อมูล: ", "Company: ") + m_session.companyName());
+}
+
+void WorkbenchWindow::fillModules(const QString& module)
+{
+    QSignalBlocker quiet(m_modules);
+    m_modules->clear();
+    m_modules->addItem(text("ทุกโมดูล", "All modules"), QString());
+    try {
+        Connection c;
+        c.open(m_session.appConnectionString);
+        Recordset rs;
+        rs.open(Sql("SELECT TCmGAlias, TCmGName, TCmGName2 FROM QD8TCommandGroup WHERE TCmGShow=1 AND TCmGFlag1=1 ORDER BY TCmGSort"), c);
+        for (; !rs.eof(); rs.moveNext())
+            m_modules->addItem(rs.text(m_session.languageId == 0 ? QStringLiteral("TCmGName") : QStringLiteral("TCmGName2")),
+                rs.text(QStringLiteral("TCmGAlias")));
+    } catch (const DbError& error) {
+        showStatus(error.message());
+    }
+    // Without a module asked for, the first one: all three command sets have entries.
+    const int index = module.isEmpty() ? -1 : m_modules->findData(module);
+    m_modules->setCurrentIndex(index < 0 ? (m_modules->count() > 1 ? 1 : 0) : index);
+}
+
+void WorkbenchWindow::setUpControl(HostedControl& control, const QString& commandAlias, const QString& commandGroup)
+{
+    // The session first (properties, then the session objects and SetLast2), then rights,
+    // print command and parent form; the caller refreshes.
+    const WorkbenchSession& s = m_session;
+    control.setConnectionString(s.sessionConnectionString);
+    control.setAppConnectionString(s.appConnectionString);
+    control.setDataConnectionString(s.dataConnectionString);
+    control.setUserID(s.userId);
+    control.setUserLoginName(s.loginName);
+    control.setUserLoginPassword(s.password);
+    control.setAppPath(s.appPath);
+    control.setSystemFolder(s.appPath);
+    control.setSpecFolder(s.appPath + QStringLiteral("/Spec"));
+    control.setImageFolder(s.appPath + QStringLiteral("/Images"));
+    control.setIconPath(s.iconPath());
+    control.setCommandGroup(commandGroup);
+    control.SetFirst(std::make_shared<DbDataObject>(s.dataConnectionString, s.appConnectionString, s.userId, s.loginName),
+        std::make_shared<SessionAppObject>(control.session()), std::make_shared<DbClientObject>(s.sessionConnectionString, s.userId));
+    control.SetLast2(s.appPath + QStringLiteral("/Users/") + s.loginName, commandAlias, QString::number(s.userId),
+        s.dataConnectionString, s.appConnectionString);
+    const auto rights = SessionServices::newCommandPermission();
+    rights->LoadCommandRights(s.userId, commandAlias, s.sessionConnectionString, s.appConnectionString);
+    control.SetPermission(*rights);
+    control.SetPrintCommand(0, s.appPath, s.loginName, s.password);
+    control.SetParentForm(this);
+}
+
+void WorkbenchWindow::refreshLaunchers()
+{
+    const QString module = m_modules->currentData().toString();
+    try {
+        for (HostedControl* launcher : std::initializer_list<HostedControl*>{m_ribbon, m_shortcuts, m_toolBar}) {
+            setUpControl(*launcher, QString(), module);
+            launcher->Refresh();
+        }
+    } catch (const DbError& error) {
+        showStatus(error.message());
+    }
+    onThemeChange(m_ribbon->ribbon()->theme(), m_ribbon->ribbon());
+}
+
+void WorkbenchWindow::setModule(const QString& commandGroup)
+{
+    const int index = m_modules->findData(commandGroup);
+    if (index >= 0 && index != m_modules->currentIndex()) {
+        QSignalBlocker quiet(m_modules);
+        m_modules->setCurrentIndex(index);
+    }
+    refreshLaunchers();
+}
+
+void WorkbenchWindow::setLanguage(int languageId)
+{
+    try {
+        m_session.setLanguage(languageId, true);
+    } catch (const DbError& error) {
+        showStatus(error.message());
+        return;
+    }
+    {
+        QSignalBlocker quiet(m_language);
+        m_language->setCurrentIndex(languageId == 0 ? 0 : 1);
+    }
+    fillModules(m_modules->currentData().toString());
+    refreshLaunchers();
+    updateStatusLabels();
+    // Open forms take the new language from the user's setting again.
+    for (int i = 0; i < m_tabs->count(); ++i) {
+        auto* control = qobject_cast<HostedControl*>(m_tabs->widget(i));
+        if (!control)
+            continue;
+        control->SetLast2(control->session().FolderPathName, control->session().ControlName, QString::number(m_session.userId),
+            m_session.dataConnectionString, m_session.appConnectionString);
+        control->Refresh();
+        if (control->metaObject()->indexOfMethod("caption()") >= 0) {
+            QString caption;
+            QMetaObject::invokeMethod(control, "caption", Q_RETURN_ARG(QString, caption));
+            m_tabs->setTabText(i, caption);
+        }
+    }
+    showStatus(text("ภาษาไทย", "English"));
+}
+
+bool WorkbenchWindow::findCommand(const QString& alias, Command* command) const
+{
+    Connection c;
+    c.open(m_session.appConnectionString);
+    Recordset rs;
+    rs.open(Sql("SELECT TCmdAlias, TCmdName, TCmdName2, TCmdType, TCmdTCmGAlias, TCmdReportNo FROM QD8TCommand WHERE TCmdAlias=")
+            + quoted(alias.trimmed()),
+        c);
+    if (rs.eof())
+        return false;
+    command->alias = rs.text(QStringLiteral("TCmdAlias"));
+    command->type = rs.text(QStringLiteral("TCmdType"));
+    command->group = rs.text(QStringLiteral("TCmdTCmGAlias"));
+    command->caption = CommandCatalogue::withoutAccelerators(SessionServices::sessionFunctions().GetCommandCaption(m_session.languageId,
+        m_session.appConnectionString, commandCentreConnectionString(m_session.appConnectionString), command->alias, 0,
+        rs.text(QStringLiteral("TCmdName")), rs.text(QStringLiteral("TCmdName2")), rs.text(QStringLiteral("TCmdReportNo"))));
+    return true;
+}
+
+QString WorkbenchWindow::tabCommand(int index) const
+{
+    QWidget* form = m_tabs->widget(index);
+    return form ? form->property(CommandProperty).toString() : QString();
+}
+
+void WorkbenchWindow::launch(const QString& shellFunction)
+{
+    for (int i = 0; i < m_tabs->count(); ++i)
+        if (tabCommand(i) == shellFunction) {
+            m_tabs->setCurrentIndex(i);
+            return;
+        }
+    Command command{shellFunction, shellFunction, QString(), QString()};
+    if (shellFunction == QLatin1String("WINDOW:REPORTSEARCH")) {
+        command.caption = text("ค้นหารายงาน", "Report Search");
+    } else {
+        try {
+            if (!findCommand(shellFunction, &command)) {
+                showStatus(text("ไม่พบคำสั่ง %1 ในรายการคำสั่ง", "The command %1 is not in the command catalogue").arg(shellFunction));
+                return;
+            }
+        } catch (const DbError& error) {
+            showStatus(error.message());
+            return;
+        }
+    }
+    const QString typeForm = QStringLiteral("TYPE:") + command.type;
+    const QString form = FormRegistry::contains(command.alias) ? command.alias : FormRegistry::contains(typeForm) ? typeForm : QString();
+    if (form.isEmpty()) {
+        showStatus(text("ยังไม่มีฟอร์มสำหรับคำสั่ง %1 (%2) ในรุ่นนี้", "This build has no form for the command %1 (%2) yet")
+                       .arg(command.alias, command.caption));
+        return;
+    }
+    openForm(form, command);
+}
+
+void WorkbenchWindow::openForm(const QString& formName, const Command& command)
+{
+    QWidget* form = FormRegistry::create(formName, m_tabs);
+    if (!form)
+        return;
+    form->setProperty(CommandProperty, command.alias);
+    try {
+        if (auto* control = qobject_cast<HostedControl*>(form))
+            setUpControl(*control, command.alias, command.group);
+        connectEvents(form);
+        const int index = m_tabs->addTab(form, command.caption);
+        m_tabs->setCurrentIndex(index);
+        if (auto* control = qobject_cast<HostedControl*>(form))
+            control->Refresh();
+    } catch (const DbError& error) {
+        delete form;
+        showStatus(error.message());
+        return;
+    } catch (const std::exception& error) {
+        delete form;
+        showStatus(QString::fromUtf8(error.what()));
+        return;
+    }
+    showStatus(text("เปิด %1", "Opened %1").arg(command.caption));
+    Q_EMIT formOpened(command.alias);
+}
+
+void WorkbenchWindow::connectEvents(QObject* form)
+{
+    // Events are found by name: a form raises those it has.
+    const struct {
+        const char* signal;
+        const char* slot;
+    } events[] = {
+        {SIGNAL(Lunch(QString&)), SLOT(onLunch(QString&))},
+        {SIGNAL(CloseButtonClick()), SLOT(onCloseRequest())},
+        {SIGNAL(CloseAction()), SLOT(onCloseRequest())},
+        {SIGNAL(PrintButtonClick(QString)), SLOT(onPrintCommand(QString))},
+        {SIGNAL(PrintAutoClick(QString,int,QString)), SLOT(onPrintList(QString,int,QString))},
+        {SIGNAL(ChangeCaption(QString,QString)), SLOT(onChangeCaption(QString,QString))},
+        {SIGNAL(DeleteAction(QString)), SLOT(onDeleteAction(QString))},
+        {SIGNAL(ThemeChange(int,QObject*)), SLOT(onThemeChange(int,QObject*))},
+    };
+    for (const auto& event : events)
+        if (form->metaObject()->indexOfSignal(QMetaObject::normalizedSignature(event.signal + 1)) >= 0)
+            connect(form, event.signal, this, event.slot);
+}
+
+QWidget* WorkbenchWindow::formOf(QObject* sender) const
+{
+    for (QObject* o = sender; o; o = o->parent())
+        if (m_tabs->indexOf(qobject_cast<QWidget*>(o)) >= 0)
+            return static_cast<QWidget*>(o);
+    return nullptr;
+}
+
+void WorkbenchWindow::onLunch(QString& shellFunction)
+{
+    launch(shellFunction);
+}
+
+void WorkbenchWindow::closeForm(QWidget* form)
+{
+    const int index = m_tabs->indexOf(form);
+    if (index < 0)
+        return;
+    m_tabs->removeTab(index);
+    form->deleteLater();
+}
+
+void WorkbenchWindow::onCloseRequest()
+{
+    closeForm(formOf(sender()));
+}
+
+void WorkbenchWindow::onPrintCommand(const QString& printCommandAlias)
+{
+    launch(printCommandAlias);
+}
+
+void WorkbenchWindow::onPrintList(const QString& sqlStatement, int, const QString& captionList)
+{
+    QWidget* form = formOf(sender());
+    const QString title = form ? m_tabs->tabText(m_tabs->indexOf(form)) : windowTitle();
+    ListPrinter(title, sqlStatement, captionList, m_session.sessionConnectionString).preview(this);
+    showStatus(text("ตัวอย่างก่อนพิมพ์: %1", "Print preview: %1").arg(title));
+}
+
+void WorkbenchWindow::onChangeCaption(const QString& caption, const QString&)
+{
+    if (QWidget* form = formOf(sender()))
+        m_tabs->setTabText(m_tabs->indexOf(form), caption);
+}
+
+void WorkbenchWindow::onDeleteAction(const QString& selectRowData)
+{
+    QWidget* form = formOf(sender());
+    const QString alias = form ? form->property(CommandProperty).toString() : QString();
+    const auto deleter = deleters().constFind(alias);
+    if (deleter == deleters().constEnd()) {
+        showStatus(text("คำสั่ง %1 ลบเอกสารไม่ได้", "The command %1 cannot delete documents").arg(alias));
+        return;
+    }
+    if (!Services::messages().question(text("ยืนยันคำสั่ง", "Confirm"), text("ต้องการลบเอกสาร %1 ใช่หรือไม่", "Delete the document %1?").arg(selectRowData)))
+        return;
+    try {
+        if ((*deleter)(selectRowData, m_session))
+            showStatus(text("ลบเอกสาร %1 แล้ว", "Deleted the document %1").arg(selectRowData));
+    } catch (const DbError& error) {
+        Services::messages().critical(text("ลบเอกสาร", "Delete"), error.message());
+    }
+    if (auto* control = qobject_cast<HostedControl*>(form))
+        control->Refresh();
+}
+
+void WorkbenchWindow::onThemeChange(int theme, QObject*)
+{
+    const QList<RibbonTheme>& themes = Ribbon::themes();
+    const RibbonTheme& t = themes.value(theme, themes.first());
+    setStyleSheet(QStringLiteral("QMainWindow { background: %1; } QStatusBar { background: %2; color: %3; } QStatusBar QLabel { color: %3; }")
+                      .arg(t.background.name(), t.tabBar.name(), t.text.name()));
+}
+
+void WorkbenchWindow::showStatus(const QString& message)
+{
+    m_status = message;
+    statusBar()->showMessage(message);
+    Q_EMIT statusChanged(message);
+}
+
+QString WorkbenchWindow::savePicture(const QString& file)
+{
+    QApplication::processEvents();
+    QPixmap picture;
+    if (QScreen* screen = windowHandle() ? windowHandle()->screen() : nullptr; screen && QGuiApplication::platformName() != QLatin1String("offscreen"))
+        picture = screen->grabWindow(winId());
+    if (picture.isNull())
+        picture = grab();
+    return picture.save(file) ? file : QString();
+}
+
+QStringList WorkbenchWindow::saveScreenshots(const QString& folder)
+{
+    QDir().mkpath(folder);
+    QStringList files;
+    files << savePicture(QDir(folder).filePath(QStringLiteral("main.png")));
+    for (const QString& name : FormRegistry::names()) {
+        launch(name);
+        const int index = m_tabs->currentIndex();
+        if (index < 0 || tabCommand(index) != name)
+            continue;
+        QString file = name;
+        file.replace(QRegularExpression(QStringLiteral("[^A-Za-z0-9_-]")), QStringLiteral("_"));
+        files << savePicture(QDir(folder).filePath(file + QStringLiteral(".png")));
+        closeForm(m_tabs->widget(index));
+    }
+    files.removeAll(QString());
+    return files;
+}
+
+} // namespace qd8

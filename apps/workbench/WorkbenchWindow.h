@@ -1,0 +1,105 @@
+#pragma once
+
+#include "WorkbenchSession.h"
+
+#include <QHash>
+#include <QMainWindow>
+#include <functional>
+
+class QComboBox;
+class QLabel;
+class QTabWidget;
+
+namespace qd8 {
+
+class HostedControl;
+class NUVRibbon;
+class ShortCutBar;
+class DocumentToolBar;
+
+// The host application: the ribbon across the top, the shortcut bar on the left, a module
+// tool bar over the forms, the forms as tabs in the centre and a status bar with the user,
+// the company database and the language. It hands every control its session in the
+// documented order and acts on every event a control raises.
+class WorkbenchWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    // Deletes the document `key` of a command's list; true when it is gone.
+    using Deleter = std::function<bool(const QString& key, const WorkbenchSession& session)>;
+
+    explicit WorkbenchWindow(const WorkbenchSession& session, const QString& module = QString(), QWidget* parent = nullptr);
+    ~WorkbenchWindow() override;
+
+    const WorkbenchSession& session() const { return m_session; }
+    ShortCutBar* shortcutBar() const { return m_shortcuts; }
+    NUVRibbon* ribbon() const { return m_ribbon; }
+    DocumentToolBar* toolBar() const { return m_toolBar; }
+    QTabWidget* tabs() const { return m_tabs; }
+    QComboBox* moduleBox() const { return m_modules; }
+    QComboBox* languageBox() const { return m_language; }
+    // The last message of the status bar.
+    QString statusMessage() const { return m_status; }
+    // The command alias of the tab at index, "" for none.
+    QString tabCommand(int index) const;
+
+    static void registerDeleter(const QString& commandAlias, Deleter deleter);
+
+    // Writes main.png and one picture per registered form into the folder; the files.
+    QStringList saveScreenshots(const QString& folder);
+    // A picture of the window as the screen shows it.
+    QString savePicture(const QString& file);
+
+public Q_SLOTS:
+    // What the host does for Lunch: opens the command's form, or says why it cannot.
+    void launch(const QString& shellFunction);
+    void setLanguage(int languageId);
+    void setModule(const QString& commandGroup);
+    void closeForm(QWidget* form);
+
+Q_SIGNALS:
+    // Every status message, for logs and tests.
+    void statusChanged(const QString& message);
+    void formOpened(const QString& commandAlias);
+
+private Q_SLOTS:
+    void onLunch(QString& shellFunction);
+    void onCloseRequest();
+    void onPrintCommand(const QString& printCommandAlias);
+    void onPrintList(const QString& sqlStatement, int reportMasterMode, const QString& captionList);
+    void onChangeCaption(const QString& caption, const QString& commandAlias);
+    void onDeleteAction(const QString& selectRowData);
+    void onThemeChange(int theme, QObject* ribbon);
+
+private:
+    struct Command {
+        QString alias;
+        QString caption;
+        QString type;
+        QString group;
+    };
+    void buildStatusBar();
+    void fillModules(const QString& module);
+    void setUpControl(HostedControl& control, const QString& commandAlias, const QString& commandGroup);
+    void refreshLaunchers();
+    bool findCommand(const QString& alias, Command* command) const;
+    void openForm(const QString& formName, const Command& command);
+    void connectEvents(QObject* form);
+    void showStatus(const QString& message);
+    void updateStatusLabels();
+    QWidget* formOf(QObject* sender) const;
+    QString text(const char* thai, const char* english) const;
+
+    WorkbenchSession m_session;
+    NUVRibbon* m_ribbon = nullptr;
+    ShortCutBar* m_shortcuts = nullptr;
+    DocumentToolBar* m_toolBar = nullptr;
+    QTabWidget* m_tabs = nullptr;
+    QComboBox* m_modules = nullptr;
+    QComboBox* m_language = nullptr;
+    QLabel* m_userLabel = nullptr;
+    QLabel* m_companyLabel = nullptr;
+    QString m_status;
+};
+
+} // namespace qd8
