@@ -29,6 +29,8 @@ TableListForm::TableListForm(const TableListDefinition& definition, QWidget* par
     m_search->setClearButtonEnabled(true);
     auto* print = new QPushButton(QStringLiteral("Print"), this);
     auto* close = new QPushButton(QStringLiteral("Close"), this);
+    print->setObjectName(QStringLiteral("print"));
+    close->setObjectName(QStringLiteral("close"));
     auto* bar = new QHBoxLayout;
     bar->addWidget(m_search, 1);
     bar->addWidget(m_total);

@@ -33,7 +33,8 @@ class TableListForm : public HostedControl {
 public:
     explicit TableListForm(const TableListDefinition& definition, QWidget* parent = nullptr);
 
-    QString caption() const;
+    // The list's title in the session language; the host titles its tab with it.
+    Q_INVOKABLE QString caption() const;
     // The SELECT of the list as it stands (search included).
     QString statement() const;
     QTableWidget* table() const { return m_table; }

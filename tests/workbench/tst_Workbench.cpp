@@ -1,0 +1,224 @@
+#include "support/SampleCompany.h"
+#include "support/ScriptedServices.h"
+
+#include "ListPrinter.h"
+#include "TableListForm.h"
+#include "WorkbenchForms.h"
+#include "WorkbenchSession.h"
+#include "WorkbenchWindow.h"
+#include "database/SessionFunctions.h"
+#include "navigation/DocumentToolBar.h"
+#include "navigation/NUVRibbon.h"
+#include "navigation/ShortCutBar.h"
+#include "widgets/FormRegistry.h"
+#include "widgets/Ribbon.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPrintPreviewWidget>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QTest>
+#include <QToolButton>
+
+using namespace qd8;
+using namespace qd8::test;
+
+namespace {
+
+// A document form as later modules write them: it asks its host to delete.
+class DeletingForm : public HostedControl {
+    Q_OBJECT
+public:
+    using HostedControl::HostedControl;
+    int refreshed = 0;
+public Q_SLOTS:
+    void Refresh() override { ++refreshed; }
+Q_SIGNALS:
+    void DeleteAction(const QString& SelectRowData);
+    void ChangeCaption(const QString& iCaption, const QString& iCommandAlias);
+    void CloseAction();
+};
+
+class WorkbenchTest : public SampleCompanyTest {
+protected:
+    void SetUp() override
+    {
+        SampleCompanyTest::SetUp();
+        if (IsSkipped())
+            return;
+        registerWorkbenchForms();
+        session = WorkbenchSession::fromConnectionStrings(appConnectionString(), dataConnectionString(), files.path());
+    }
+    // Logs in and opens the window on a module.
+    std::unique_ptr<WorkbenchWindow> open(const char* user, const char* module)
+    {
+        EXPECT_TRUE(session.logIn(QString::fromLatin1(user), QStringLiteral("1234")));
+        auto window = std::make_unique<WorkbenchWindow>(session, QString::fromLatin1(module));
+        window->show();
+        return window;
+    }
+    static QListWidgetItem* entry(WorkbenchWindow& window, CommandSet set, const QString& alias)
+    {
+        QListWidget* list = window.shortcutBar()->listView(set);
+        for (int i = 0; i < list->count(); ++i)
+            if (list->item(i)->data(Qt::UserRole).toString() == alias)
+                return list->item(i);
+        return nullptr;
+    }
+
+    QTemporaryDir files;
+    WorkbenchSession session;
+};
+
+TEST_P(WorkbenchTest, LoggingInChecksThePasswordAndTakesTheUsersLanguage)
+{
+    const QList<WorkbenchUser> users = session.users();
+    ASSERT_EQ(users.size(), 3);
+    EXPECT_EQ(users[1].name, "สมชาย ใจดี");
+    EXPECT_EQ(users[2].loginName, "JOHN");
+    EXPECT_FALSE(session.logIn("SOMCHAI", "12345"));
+    EXPECT_FALSE(session.logIn("NOBODY", ""));
+    EXPECT_TRUE(session.logIn("john", "1234"));
+    EXPECT_EQ(session.userId, 2);
+    EXPECT_EQ(session.languageId, 1);
+}
+
+TEST_P(WorkbenchTest, AShortcutOpensItsFormOnce)
+{
+    auto window = open("SOMCHAI", "HR");
+    QStringList opened;
+    QObject::connect(window.get(), &WorkbenchWindow::formOpened, [&](const QString& alias) { opened << alias; });
+    QListWidgetItem* employees = entry(*window, CommandSet::Main, "HREMPLOYEE");
+    ASSERT_TRUE(employees);
+    QListWidget* list = window->shortcutBar()->listView(CommandSet::Main);
+    list->setCurrentItem(employees);
+    QTest::keyClick(list, Qt::Key_Return);
+    ASSERT_EQ(window->tabs()->count(), 1);
+    EXPECT_EQ(window->tabCommand(0), "HREMPLOYEE");
+    EXPECT_EQ(window->tabs()->tabText(0), "ข้อมูลพนักงาน");
+    auto* form = qobject_cast<TableListForm*>(window->tabs()->widget(0));
+    ASSERT_TRUE(form);
+    EXPECT_EQ(form->table()->rowCount(), 4);
+    EXPECT_EQ(form->UserID(), 1);  // the host handed it the session
+    emit list->itemDoubleClicked(employees);
+    EXPECT_EQ(window->tabs()->count(), 1);  // the open tab comes forward instead
+    EXPECT_EQ(opened, QStringList{"HREMPLOYEE"});
+
+    // Its close button closes the tab.
+    form->findChild<QPushButton*>("close")->click();
+    QApplication::processEvents();
+    EXPECT_EQ(window->tabs()->count(), 0);
+}
+
+TEST_P(WorkbenchTest, DeniedCommandsNeverAppearAndUnknownOnesAreReported)
+{
+    auto window = open("SOMCHAI", "GL");
+    EXPECT_TRUE(entry(*window, CommandSet::Main, "GLJV"));
+    EXPECT_FALSE(entry(*window, CommandSet::Main, "GLTB"));  // Somchai may not use the trial balance
+    EXPECT_FALSE(window->ribbon()->ribbon()->button("GLTB"));
+
+    window->launch("NOSUCHCOMMAND");
+    EXPECT_TRUE(window->statusMessage().contains("NOSUCHCOMMAND"));
+    window->launch("GLJV");  // in the catalogue, but no form in this build
+    EXPECT_TRUE(window->statusMessage().contains("GLJV"));
+    EXPECT_TRUE(window->statusMessage().contains("บันทึกรายการบัญชีรายวัน"));
+    window->launch("x' OR '1'='1");
+    EXPECT_EQ(window->tabs()->count(), 0);
+}
+
+TEST_P(WorkbenchTest, ReportSearchListsReportsAndLaunchesTheChosenOne)
+{
+    auto window = open("JOHN", "GL");
+    window->toolBar()->utilityButton(4)->click();
+    ASSERT_EQ(window->tabs()->count(), 1);
+    EXPECT_EQ(window->tabs()->tabText(0), "Report Search");
+    auto* form = qobject_cast<TableListForm*>(window->tabs()->widget(0));
+    ASSERT_TRUE(form);
+    ASSERT_GT(form->table()->rowCount(), 5);
+    EXPECT_EQ(form->table()->item(0, 0)->text(), "GLTB");
+    form->searchBox()->setText("Aging");
+    QTest::keyClick(form->searchBox(), Qt::Key_Return);
+    EXPECT_EQ(form->table()->item(0, 0)->text(), "ARAGING");
+    form->searchBox()->setText("it's");
+    QTest::keyClick(form->searchBox(), Qt::Key_Return);
+    EXPECT_EQ(form->table()->rowCount(), 0);  // a quote finds nothing and breaks nothing
+    EXPECT_TRUE(scriptedMessages().shown.isEmpty());
+    form->searchBox()->clear();
+    form->table()->selectRow(0);
+    QTest::keyClick(form->table(), Qt::Key_Return);
+    EXPECT_TRUE(window->statusMessage().contains("GLTB"));
+}
+
+TEST_P(WorkbenchTest, TheLanguageSwitchStoresTheSettingAndRetitlesEverything)
+{
+    auto window = open("SOMCHAI", "HR");
+    window->launch("HREMPLOYEE");
+    window->languageBox()->setCurrentIndex(1);
+    EXPECT_EQ(DbSessionFunctions::userSettingText(1, "LanguageID", dataConnectionString()), "1");
+    EXPECT_EQ(window->tabs()->tabText(0), "Employees");
+    EXPECT_EQ(entry(*window, CommandSet::Main, "HREMPLOYEE")->text(), "Employees");
+    auto* form = qobject_cast<TableListForm*>(window->tabs()->widget(0));
+    EXPECT_EQ(form->table()->horizontalHeaderItem(1)->text(), "Name");
+    EXPECT_EQ(form->table()->item(0, 1)->text(), "Somchai Jaidee");
+}
+
+TEST_P(WorkbenchTest, DeleteActionAsksThenDeletesThroughTheCommandsDeleter)
+{
+    QPointer<DeletingForm> form;
+    FormRegistry::registerForm("ARINVOICE", [&](QWidget* parent) { return form = new DeletingForm(parent); });
+    QStringList deleted;
+    WorkbenchWindow::registerDeleter("ARINVOICE", [&](const QString& key, const WorkbenchSession&) {
+        deleted << key;
+        return true;
+    });
+    auto window = open("SOMCHAI", "AR");
+    window->launch("ARINVOICE");
+    ASSERT_TRUE(form);
+    scriptedMessages().answers = {false, true};
+    emit form->DeleteAction("IV2611-0001");
+    emit form->DeleteAction("IV2611-0002");
+    EXPECT_EQ(deleted, QStringList{"IV2611-0002"});
+    EXPECT_EQ(scriptedMessages().shown.size(), 2);
+    emit form->ChangeCaption("ใบแจ้งหนี้ IV2611-0002", "ARINVOICE");
+    EXPECT_EQ(window->tabs()->tabText(0), "ใบแจ้งหนี้ IV2611-0002");
+    emit form->CloseAction();
+    QApplication::processEvents();
+    EXPECT_EQ(window->tabs()->count(), 0);
+    FormRegistry::unregisterForm("ARINVOICE");
+}
+
+TEST_P(WorkbenchTest, PrintingAListPreviewsItsRowsAndExportsPdf)
+{
+    auto window = open("SOMCHAI", "HR");
+    window->launch("HREMPLOYEE");
+    auto* form = qobject_cast<TableListForm*>(window->tabs()->widget(0));
+    ASSERT_TRUE(form);
+    const ListPrinter printer("Employees", form->statement(), "Code,Name,Type,Branch,Start", session.sessionConnectionString);
+    EXPECT_EQ(printer.rowCount(), 4);
+    EXPECT_TRUE(printer.html().contains("มาลี ศรีสุข"));
+    const QString pdf = files.filePath("employees.pdf");
+    ASSERT_TRUE(printer.exportPdf(pdf));
+    QFile file(pdf);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.read(5) == "%PDF-");
+
+    form->findChild<QPushButton*>("print")->click();
+    QPrintPreviewWidget* preview = nullptr;
+    for (QWidget* top : QApplication::topLevelWidgets())
+        if (auto* found = top->findChild<QPrintPreviewWidget*>(); found && top->isVisible())
+            preview = found;
+    ASSERT_TRUE(preview);
+    EXPECT_GE(preview->pageCount(), 1);
+    preview->window()->close();
+}
+
+QD8_ON_BOTH_ENGINES(WorkbenchTest);
+
+} // namespace
+
+#include "tst_Workbench.moc"
