@@ -72,6 +72,7 @@ WorkbenchWindow::WorkbenchWindow(const WorkbenchSession& session, const QString&
     addDockWidget(Qt::LeftDockWidgetArea, dock);
 
     auto* centre = new QWidget(this);
+    centre->setObjectName(QStringLiteral("centre"));
     auto* centreLayout = new QVBoxLayout(centre);
     centreLayout->setContentsMargins(0, 0, 0, 0);
     centreLayout->addWidget(m_toolBar);
@@ -408,7 +409,8 @@ void WorkbenchWindow::onThemeChange(int theme, QObject*)
 {
     const QList<RibbonTheme>& themes = Ribbon::themes();
     const RibbonTheme& t = themes.value(theme, themes.first());
-    setStyleSheet(QStringLiteral("QMainWindow { background: %1; } QStatusBar { background: %2; color: %3; } QStatusBar QLabel { color: %3; }")
+    setStyleSheet(QStringLiteral("QMainWindow { background: %1; } QStatusBar { background: %2; color: %3; } QStatusBar QLabel { color: %3; } "
+                                 "#centre > qd8--DocumentToolBar QToolButton { color: %3; }")
                       .arg(t.background.name(), t.tabBar.name(), t.text.name()));
 }
 

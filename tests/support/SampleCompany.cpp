@@ -1,15 +1,13 @@
 #include "support/SampleCompany.h"
 
-#include <QCoreApplication>
 #include <QProcess>
 
 namespace qd8::test {
 
 int runAdmin(const QStringList& arguments, QString* output)
 {
-    const QString given = QString::fromLocal8Bit(qgetenv("QD8_ADMIN"));
     QProcess process;
-    process.start(given.isEmpty() ? QCoreApplication::applicationDirPath() + QStringLiteral("/../apps/qd8-admin") : given, arguments);
+    process.start(QString::fromLocal8Bit(qgetenv("QD8_ADMIN")), arguments);
     process.waitForFinished(120000);
     if (output)
         *output = QString::fromUtf8(process.readAllStandardOutput() + process.readAllStandardError());

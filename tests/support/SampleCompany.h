@@ -6,7 +6,7 @@
 
 namespace qd8::test {
 
-// Runs qd8-admin (the build's own, or $QD8_ADMIN) and returns its exit code, -1 when it
+// Runs qd8-admin ($QD8_ADMIN: the build's own unless the environment names another) and returns its exit code, -1 when it
 // crashed; *output receives what it printed.
 int runAdmin(const QStringList& arguments, QString* output = nullptr);
 
