@@ -19,3 +19,10 @@ extern "C" int sqlite3_qd8thai_init(sqlite3* db, char** error, const sqlite3_api
         qd8::closeThaiCollator(collator);
     return rc;
 }
+
+// The entry point SQLite derives from the file name: "sqlite3_" + the letters of
+// "libqd8thai" after "lib" (digits are dropped) + "_init".
+extern "C" int sqlite3_qdthai_init(sqlite3* db, char** error, const sqlite3_api_routines* api)
+{
+    return sqlite3_qd8thai_init(db, error, api);
+}
