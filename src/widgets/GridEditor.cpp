@@ -405,6 +405,16 @@ void GridEditor::setLanguageID(int languageId)
     d->model->setLanguageId(languageId);
 }
 
+void GridEditor::setRowHidden(int row, bool hidden)
+{
+    d->view->setRowHidden(row - 1, hidden);
+}
+
+bool GridEditor::isRowHidden(int row) const
+{
+    return d->view->isRowHidden(row - 1);
+}
+
 void GridEditor::Clear()
 {
     d->hideMessage();

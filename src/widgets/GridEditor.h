@@ -112,6 +112,10 @@ public:
     Q_INVOKABLE void SetCellType(int Row, int Col, const QString& ColumnType, int Decimals = 0,
                                  const QString& LabelList = QString());
 
+    // Hides a row from view (a show-only filter); it keeps its values and mark.
+    Q_INVOKABLE void setRowHidden(int Row, bool Hidden);
+    Q_INVOKABLE bool isRowHidden(int Row) const;
+
     // A progress display under the grid for long work; Maximum 0 shows a busy bar.
     Q_INVOKABLE void ShowProgress(const QString& Caption, int Maximum = 0);
     Q_INVOKABLE void SetProgress(int Value);

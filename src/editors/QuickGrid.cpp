@@ -1,0 +1,462 @@
+#include "editors/QuickGrid.h"
+
+#include "database/ListService.h"
+#include "database/PermissionObject.h"
+#include "database/SessionServices.h"
+#include "foundation/Connection.h"
+#include "foundation/DbError.h"
+#include "foundation/Recordset.h"
+#include "foundation/Services.h"
+#include "foundation/Values.h"
+#include "widgets/GridEditor.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace qd8 {
+
+const QStringList QuickGrid::ButtonKeys = {QStringLiteral("Enter"), QStringLiteral("Help"), QStringLiteral("Add"),
+    QStringLiteral("Delete"), QStringLiteral("Filter"), QStringLiteral("Copy"), QStringLiteral("Edit"), QStringLiteral("Update"),
+    QStringLiteral("Cancel"), QStringLiteral("Close"), QStringLiteral("UnPass"), QStringLiteral("Pass"), QStringLiteral("Check"),
+    QStringLiteral("Print")};
+
+namespace {
+
+// Titles of the product-line forms come from the names the company gave its sections and
+// groups; the quick form's own caption is used when there is no product line to ask.
+const QHash<QString, QString>& productLineTitles()
+{
+    static const QHash<QString, QString> columns = {
+        {QStringLiteral("PRODUCTSECTION"), QStringLiteral("TPDLSectionName1")},
+        {QStringLiteral("PRODUCTSECTION2"), QStringLiteral("TPDLSectionName2")},
+        {QStringLiteral("PRODUCTSECTION3"), QStringLiteral("TPDLSectionName3")},
+        {QStringLiteral("PRODUCTSECTION4"), QStringLiteral("TPDLSectionName4")},
+        {QStringLiteral("PRODUCTGROUP1"), QStringLiteral("TPDLGroupName1")},
+        {QStringLiteral("PRODUCTGROUP2"), QStringLiteral("TPDLGroupName2")},
+        {QStringLiteral("PRODUCTGROUP3"), QStringLiteral("TPDLGroupName3")},
+        {QStringLiteral("PRODUCTGROUP4"), QStringLiteral("TPDLGroupName4")},
+    };
+    return columns;
+}
+
+} // namespace
+
+QuickGrid::QuickGrid(QWidget* parent)
+    : HostedControl(parent)
+    , m_selectLabel(new QLabel(QStringLiteral("Group Code"), this))
+    , m_selector(new QLineEdit(this))
+    , m_selectButton(new QToolButton(this))
+    , m_title(new QLabel(this))
+    , m_toolBar(new QToolBar(this))
+    , m_filter(new QLineEdit(this))
+    , m_grid(new GridEditor(this))
+{
+    m_selector->setReadOnly(true);
+    m_selector->setMaximumWidth(160);
+    m_selectButton->setText(QStringLiteral("..."));
+    m_selectButton->setToolTip(QStringLiteral("Select Group Code (F2)"));
+    m_title->setStyleSheet(QStringLiteral("font-weight: bold"));
+    auto* selectorRow = new QHBoxLayout;
+    selectorRow->addWidget(m_selectLabel);
+    selectorRow->addWidget(m_selector);
+    selectorRow->addWidget(m_selectButton);
+    selectorRow->addWidget(m_title, 1);
+    for (const QString& key : ButtonKeys) {
+        QAction* action = m_toolBar->addAction(key, this, [this, key] { buttonClick(key); });
+        action->setObjectName(key);
+        if (PermissionObject::ToolBarKeys.contains(key))
+            registerToolButton(key, action);
+    }
+    m_toolBar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    m_filter->setPlaceholderText(QStringLiteral("แสดงเฉพาะ / Show only"));
+    m_filter->setClearButtonEnabled(true);
+    m_filter->setVisible(false);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(2, 2, 2, 2);
+    layout->addLayout(selectorRow);
+    layout->addWidget(m_toolBar);
+    layout->addWidget(m_filter);
+    layout->addWidget(m_grid, 1);
+
+    connect(m_selectButton, &QToolButton::clicked, this, &QuickGrid::chooseForm);
+    connect(m_filter, &QLineEdit::textChanged, this, &QuickGrid::applyFilter);
+    connect(m_grid, &GridEditor::KeyDown, this, [this](int& keyCode, int) {
+        if (keyCode == 113 && (m_runMode == QLatin1String("ADD") || m_runMode == QLatin1String("EDIT"))) {
+            pickIntoCell();
+            keyCode = 0;
+        }
+    });
+    connect(m_grid, &GridEditor::AfterAddRow, this, &QuickGrid::fillNewRow);
+    m_grid->setValidator([this](int row, int col, const QVariant& value) { return checkCell(row, col, value); });
+    m_grid->setReadOnly(true);
+    setbuttons();
+}
+
+QuickGrid::~QuickGrid() = default;
+
+QString QuickGrid::text(const char* thai, const char* english) const
+{
+    return QString::fromUtf8(LanguageID() == 0 ? thai : english);
+}
+
+QString QuickGrid::SelectCaption() const
+{
+    return m_selectLabel->text();
+}
+
+void QuickGrid::setSelectCaption(const QString& caption)
+{
+    m_selectLabel->setText(caption);
+}
+
+QAction* QuickGrid::button(const QString& key) const
+{
+    return m_toolBar->findChild<QAction*>(key);
+}
+
+QString QuickGrid::selectedAlias() const
+{
+    return m_selector->text();
+}
+
+QStringList QuickGrid::propertyKeysRead() const
+{
+    return {QStringLiteral("ConnectionString"), QStringLiteral("DataConnectionString"), QStringLiteral("QuickGroup")};
+}
+
+int QuickGrid::SetParentForm(QWidget* PassForm, bool ActionSingleControl)
+{
+    HostedControl::SetParentForm(PassForm, ActionSingleControl);
+    return 0;
+}
+
+void QuickGrid::Refresh()
+{
+    m_groupForms.clear();
+    if (ConnectionString().isEmpty())
+        return;
+    Sql sql = m_quickGroup.isEmpty() ? Sql("SELECT * FROM QD8VQuickGroup ORDER BY TQfMSort")
+                                     : Sql("SELECT * FROM QD8VQuickGroup WHERE TCmGAlias=") + quoted(m_quickGroup) + " ORDER BY TQfMSort";
+    try {
+        Connection app;
+        app.open(ConnectionString());
+        Recordset rs;
+        rs.open(sql, app);
+        for (; !rs.eof(); rs.moveNext())
+            m_groupForms.append({rs.text(QStringLiteral("TQFmAlias")), rs.text(QStringLiteral("TQFmCaption") + nameSuffix())});
+    } catch (const DbError& error) {
+        Services::messages().critical(QStringLiteral("Quick Form"), error.message());
+    }
+}
+
+void QuickGrid::chooseForm()
+{
+    if (m_locked)
+        return;
+    const bool oneGroup = !m_quickGroup.isEmpty() && m_quickGroup != QLatin1String("SM");
+    const QString source = oneGroup
+        ? QStringLiteral("QD8VQuickGroup WHERE TQFmFlag1=1 AND TCmGFlag1=1 AND TCmGAlias='") + m_quickGroup + QStringLiteral("' ORDER BY TQFmCaption")
+        : QStringLiteral("QD8VQuickGroupBK WHERE TQFmFlag1=1 AND TCmGFlag1=1 ORDER BY TQFmCaption");
+    QString alias;
+    try {
+        alias = SessionServices::listService().PickFromList(QStringLiteral("Select Group Code"), QStringLiteral("TQFmAlias"),
+            QStringLiteral("TQFmAlias,TQFmCaption") + nameSuffix(), QStringLiteral("ALIAS,Group Code"), QStringLiteral("0,3800"),
+            QStringLiteral("0,0"), source, ConnectionString(), 0, 0, 0, 1, 0, 0);
+    } catch (const DbError& error) {
+        Services::messages().critical(QStringLiteral("Select Group Code"), error.message());
+        return;
+    }
+    if (!alias.isEmpty())
+        cmdWhereShow2(alias, false);
+}
+
+void QuickGrid::cmdWhereShow(const QString& KeyType)
+{
+    cmdWhereShow2(KeyType, false);
+}
+
+QString QuickGrid::formTitle(Connection& app, Connection& data, const QString& alias) const
+{
+    const auto column = productLineTitles().constFind(alias.toUpper());
+    if (column != productLineTitles().constEnd() && !m_form.fieldFilter.isEmpty()) {
+        Recordset rs;
+        rs.open(Sql("SELECT ") + *column + " FROM QD8TProductLine WHERE TPDLCode=" + quoted(m_form.fieldFilter), data);
+        if (!rs.eof() && !rs.text(*column).isEmpty())
+            return rs.text(*column);
+    }
+    Recordset rs;
+    rs.open(Sql("SELECT TQFmCaption") + nameSuffix() + " FROM QD8TQuickForm WHERE TQFmAlias=" + quoted(alias), app);
+    return rs.eof() ? QString() : qd8::text(rs.field(0));
+}
+
+void QuickGrid::cmdWhereShow2(const QString& KeyType, bool LockAfterShow)
+{
+    m_selector->setText(KeyType);
+    FillData();
+    m_locked = LockAfterShow;
+    m_selectButton->setEnabled(!m_locked);
+    Q_EMIT ChangeGroup();
+}
+
+QString QuickGrid::loadStatement() const
+{
+    QString sql = QStringLiteral("SELECT * FROM ") + m_form.view;
+    if (!m_form.where.isEmpty())
+        sql += QStringLiteral(" WHERE ") + m_form.where;
+    if (!m_form.order.isEmpty())
+        sql += QStringLiteral(" ORDER BY ") + m_form.order;
+    return sql;
+}
+
+void QuickGrid::FillData()
+{
+    QString alias = m_selector->text().trimmed();
+    if (alias.isEmpty()) {
+        alias = m_defaultFormAlias;
+        m_selector->setText(alias);
+    }
+    m_grid->Clear();
+    m_loaded.clear();
+    m_form = {};
+    m_title->clear();
+    m_filter->clear();
+    if (alias.isEmpty() || ConnectionString().isEmpty() || DataConnectionString().isEmpty()) {
+        enterMode(QStringLiteral("BLANK"));
+        return;
+    }
+    try {
+        Connection app;
+        app.open(ConnectionString());
+        Connection data;
+        data.open(DataConnectionString());
+        m_form = QuickFormDefinition::load(app, alias, LanguageID());
+        if (!m_form.isLoaded()) {
+            enterMode(QStringLiteral("BLANK"));
+            return;
+        }
+        m_title->setText(formTitle(app, data, alias));
+        m_grid->setLanguageID(LanguageID());
+        for (const QuickFieldDefinition& f : m_form.fields) {
+            GridColumn column = GridColumn::fromDefinition(f.caption, f.width, f.type == QLatin1String("AUTONUMBER") ? QStringLiteral("NUMBER") : f.type,
+                f.decimals, f.rowAlign, f.labelList, f.canEdit && f.type != QLatin1String("AUTONUMBER"));
+            column.newRowsEditable = f.type != QLatin1String("AUTONUMBER");
+            m_grid->addColumn(column);
+        }
+        m_grid->setRefuseAdd(!m_form.canAdd || m_form.readOnly);
+        m_grid->setRefuseDelete(!m_form.canDelete || m_form.readOnly);
+        loadRows(data);
+    } catch (const DbError& error) {
+        Services::messages().critical(m_form.caption.isEmpty() ? QStringLiteral("Quick Form") : m_form.caption, error.message());
+        enterMode(QStringLiteral("BLANK"));
+        return;
+    }
+    enterMode(QStringLiteral("VIEW"));
+}
+
+void QuickGrid::loadRows(Connection& data)
+{
+    Recordset rs;
+    rs.open(Sql(loadStatement()), data);
+    QList<int> columns;
+    for (const QuickFieldDefinition& f : m_form.fields)
+        columns << rs.fieldIndex(f.fieldName);
+    m_loaded.reserve(rs.recordCount());
+    for (; !rs.eof(); rs.moveNext()) {
+        QVariantList values;
+        values.reserve(columns.size());
+        for (int index : columns)
+            values << (index < 0 ? QVariant() : rs.field(index));
+        m_grid->AddItem(values);
+        m_loaded << values;
+    }
+}
+
+void QuickGrid::enterMode(const QString& mode)
+{
+    m_runMode = mode;
+    const bool editing = mode == QLatin1String("ADD") || mode == QLatin1String("EDIT");
+    m_grid->setReadOnly(!editing);
+    m_selectButton->setEnabled(!editing && !m_locked);
+    setbuttons();
+}
+
+void QuickGrid::setbuttons()
+{
+    if (m_runMode.isEmpty())
+        m_runMode = QStringLiteral("BLANK");
+    QStringList shown;
+    if (m_runMode == QLatin1String("BLANK")) {
+        shown = {QStringLiteral("Close")};
+    } else if (m_runMode == QLatin1String("VIEW")) {
+        shown = {QStringLiteral("Close"), QStringLiteral("Filter")};
+        if (!m_form.readOnly) {
+            shown << QStringLiteral("Edit");
+            if (m_form.canAdd)
+                shown << QStringLiteral("Add");
+        }
+        if (!m_form.printCommand.isEmpty() || m_form.masterReportNo > 0)
+            shown << QStringLiteral("Print");
+    } else {
+        shown = {QStringLiteral("Update"), QStringLiteral("Cancel"), QStringLiteral("Filter")};
+        if (m_form.canAdd)
+            shown << QStringLiteral("Add");
+        if (m_form.canDelete)
+            shown << QStringLiteral("Delete");
+    }
+    for (const QString& key : ButtonKeys)
+        button(key)->setVisible(shown.contains(key));
+}
+
+void QuickGrid::buttonClick(const QString& key)
+{
+    if (key == QLatin1String("Close")) {
+        Q_EMIT CloseButtonClick();
+    } else if (key == QLatin1String("Edit")) {
+        enterMode(QStringLiteral("EDIT"));
+    } else if (key == QLatin1String("Add")) {
+        if (m_runMode == QLatin1String("VIEW"))
+            enterMode(QStringLiteral("ADD"));
+        m_grid->AddRow();
+    } else if (key == QLatin1String("Delete")) {
+        if (m_grid->Row() > 0)
+            m_grid->DeleteRow(m_grid->Row());
+    } else if (key == QLatin1String("Update")) {
+        save();
+    } else if (key == QLatin1String("Cancel")) {
+        cmdCancel_Click();
+    } else if (key == QLatin1String("Print")) {
+        print();
+    } else if (key == QLatin1String("Filter")) {
+        m_filter->setVisible(!m_filter->isVisible());
+        if (m_filter->isVisible())
+            m_filter->setFocus();
+        else
+            m_filter->clear();
+    }
+}
+
+void QuickGrid::cmdCancel_Click()
+{
+    FillData();
+}
+
+void QuickGrid::applyFilter(const QString& filterText)
+{
+    // Show only the rows holding the text in any column; the others stay in the grid.
+    m_filtered = !filterText.trimmed().isEmpty();
+    for (int row = 1; row <= m_grid->Rows(); ++row) {
+        bool match = !m_filtered;
+        for (int col = 1; !match && col <= m_grid->Cols(); ++col)
+            match = m_grid->TextMatrix(row, col).contains(filterText.trimmed(), Qt::CaseInsensitive);
+        m_grid->setRowHidden(row, !match);
+    }
+}
+
+void QuickGrid::fillNewRow(int row)
+{
+    for (int col = 1; col <= m_form.fields.size(); ++col) {
+        const QuickFieldDefinition& f = m_form.fields[col - 1];
+        if (!f.defaultValue.isEmpty())
+            m_grid->SetValue(row, col, f.defaultValue);
+    }
+}
+
+void QuickGrid::pickIntoCell()
+{
+    const int row = m_grid->Row(), col = m_grid->Col();
+    if (row < 1 || col < 1 || col > m_form.fields.size() || m_form.fields[col - 1].runQuickForm.isEmpty())
+        return;
+    const QString picked = SelectQuickForm(m_form.fields[col - 1].runQuickForm);
+    if (!picked.isEmpty())
+        m_grid->SetValue(row, col, picked);
+}
+
+QString QuickGrid::checkCell(int row, int col, const QVariant& value) const
+{
+    if (col < 1 || col > m_form.fields.size())
+        return {};
+    const QuickFieldDefinition& f = m_form.fields[col - 1];
+    const QString shown = qd8::text(value);
+    if (f.maxLength > 0 && shown.size() > f.maxLength)
+        return text("ยาวเกิน %1 ตัวอักษร", "Longer than %1 characters").arg(f.maxLength);
+    if (!shown.isEmpty() && (f.minCon || f.maxCon)) {
+        const double number = toNumber(value);
+        if (f.minCon && number < f.minValue)
+            return text("ต้องไม่น้อยกว่า %1", "Must not be less than %1").arg(f.minValue);
+        if (f.maxCon && number > f.maxValue)
+            return text("ต้องไม่มากกว่า %1", "Must not be more than %1").arg(f.maxValue);
+    }
+    if (!f.canDuplicate && !shown.isEmpty())
+        for (int other = 1; other <= m_grid->Rows(); ++other)
+            if (other != row && m_grid->RowMark(other) != QLatin1String("D") && qd8::text(m_grid->GetValue(other, col)) == shown)
+                return text("%1 ซ้ำกับรายการที่ %2", "%1 is already in row %2").arg(shown).arg(other);
+    return {};
+}
+
+QString QuickGrid::SelectQuickForm(const QString& QuickFormAlias)
+{
+    return SelectQuickForm3(QuickFormAlias, 0, QString());
+}
+
+QString QuickGrid::SelectQuickForm2(const QString& QuickFormAlias, int HF)
+{
+    return SelectQuickForm3(QuickFormAlias, HF, QString());
+}
+
+QString QuickGrid::SelectQuickForm3(const QString& QuickFormAlias, int HF, const QString& CustomFilter)
+{
+    try {
+        Connection app;
+        app.open(ConnectionString());
+        Recordset form;
+        form.open(Sql("SELECT * FROM QD8TQuickForm WHERE TQFmAlias=") + quoted(QuickFormAlias), app);
+        if (form.eof())
+            return {};
+        const QString title = form.text(QStringLiteral("TQFmCaption") + nameSuffix());
+        QString keyList = form.text(QStringLiteral("TQFmPKList"));
+        if (keyList.startsWith(QLatin1Char(',')))
+            keyList.remove(0, 1);
+        Recordset fields;
+        fields.open(Sql("SELECT * FROM QD8TQuickField WHERE TQFFTQFmAlias=") + quoted(QuickFormAlias) + " ORDER BY TQFFSort", app);
+        QStringList fieldList, captionList, widthList, typeList;
+        qint64 totalWidth = 0;
+        for (; !fields.eof(); fields.moveNext()) {
+            fieldList << fields.text(QStringLiteral("TQFFFieldName"));
+            captionList << fields.text(QStringLiteral("TQFFCaption") + nameSuffix());
+            const qint64 width = qint64(toNumber(fields.field(QStringLiteral("TQFFWidth"))));
+            widthList << QString::number(width);
+            totalWidth += width;
+            typeList << (fields.text(QStringLiteral("TQFFFieldType")) == QLatin1String("LABELLIST") ? QStringLiteral("13") : QStringLiteral("0"));
+        }
+        const QString formWhere = form.text(QStringLiteral("TQFmWhere"));
+        QString where = formWhere.isEmpty() ? QStringLiteral(" WHERE ") + form.text(QStringLiteral("TQFMKeyIden")) + QStringLiteral("Flag1=1")
+                                            : QStringLiteral(" WHERE ") + formWhere;
+        const QString order = form.text(QStringLiteral("TQFmOrder"));
+        static const QHash<QString, QString> employeeColumns = {{QStringLiteral("QD8TEMPLOYEETYPE"), QStringLiteral("TEmTCode")},
+            {QStringLiteral("QD8TEMPLOYEE"), QStringLiteral("TEmpTEmTCode")}, {QStringLiteral("QD8TEMPSLIPPERIOD"), QStringLiteral("TSAPTEmTCode")}};
+        const QString scopeColumn = employeeColumns.value(QuickFormAlias.toUpper());
+        if (HF >= 1 && !scopeColumn.isEmpty()) {
+            const auto permission = SessionServices::newCommandPermission();
+            permission->LoadCommandRights(UserID(), QString(), DataConnectionString(), ConnectionString());
+            const QString condition = permission->employeeScope(scopeColumn, HF - 1);
+            if (!condition.isEmpty())
+                where = where.isEmpty() ? QStringLiteral(" WHERE ") + condition : where + QStringLiteral(" AND ") + condition;
+        }
+        if (!CustomFilter.isEmpty())
+            where += QLatin1Char(' ') + CustomFilter;
+        const QString source = form.text(QStringLiteral("TQFmView")) + where + (order.isEmpty() ? QString() : QStringLiteral(" ORDER BY ") + order);
+        return SessionServices::listService().PickFromList(title, keyList, fieldList.join(QLatin1Char(',')), captionList.join(QLatin1Char(',')),
+            widthList.join(QLatin1Char(',')), typeList.join(QLatin1Char(',')), source, DataConnectionString(), 0, 0, 0, 1, 0,
+            totalWidth >= 10001 ? 10000 : 0);
+    } catch (const DbError& error) {
+        Services::messages().critical(QuickFormAlias, error.message());
+        return {};
+    }
+}
+
+} // namespace qd8

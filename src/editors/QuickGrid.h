@@ -1,0 +1,129 @@
+#pragma once
+
+#include "editors/QuickFormDefinition.h"
+#include "foundation/Sql.h"
+#include "widgets/HostedControl.h"
+
+#include <QVariantList>
+
+class QAction;
+class QLabel;
+class QLineEdit;
+class QToolBar;
+class QToolButton;
+
+namespace qd8 {
+
+class Connection;
+class GridEditor;
+
+// Edits a simple master table of the company data (divisions, units, employee types...)
+// described by a quick form: QD8TQuickForm/QD8TQuickField of the application database say
+// which table, which columns, which keys and checks. The user picks a form of the group,
+// the rows load into the grid, and "Update" writes every changed row in one transaction.
+//
+// ConnectionString names the application database (the metadata), DataConnectionString
+// the company data.
+class QuickGrid : public HostedControl {
+    Q_OBJECT
+    Q_CLASSINFO("ConnectionString", "application")
+    Q_PROPERTY(QString RUNMODE READ RUNMODE WRITE setRUNMODE)
+    Q_PROPERTY(QString SelectCaption READ SelectCaption WRITE setSelectCaption)
+    Q_PROPERTY(QString QuickGroup READ QuickGroup WRITE setQuickGroup)
+    Q_PROPERTY(QString DefaultFormAlias READ DefaultFormAlias WRITE setDefaultFormAlias)
+
+public:
+    // The tool-bar keys, in their order on the bar.
+    static const QStringList ButtonKeys;
+
+    explicit QuickGrid(QWidget* parent = nullptr);
+    ~QuickGrid() override;
+
+    QString RUNMODE() const { return m_runMode; }
+    void setRUNMODE(const QString& mode) { m_runMode = mode; }
+    QString SelectCaption() const;
+    void setSelectCaption(const QString& caption);
+    QString QuickGroup() const { return m_quickGroup; }
+    void setQuickGroup(const QString& group) { m_quickGroup = group; }
+    QString DefaultFormAlias() const { return m_defaultFormAlias; }
+    void setDefaultFormAlias(const QString& alias) { m_defaultFormAlias = alias; }
+
+    GridEditor* grid() const { return m_grid; }
+    QAction* button(const QString& key) const;
+    const QuickFormDefinition& form() const { return m_form; }
+    // The forms Refresh listed: alias and title.
+    const QList<QPair<QString, QString>>& groupForms() const { return m_groupForms; }
+    // The alias in the selector and whether the user may change it.
+    QString selectedAlias() const;
+    bool selectorLocked() const { return m_locked; }
+    // The statement the rows were read with.
+    QString loadStatement() const;
+
+    int SetParentForm(QWidget* PassForm, bool ActionSingleControl = false) override;
+
+public Q_SLOTS:
+    // Lists the forms of QuickGroup (the selector's choices).
+    void Refresh() override;
+    // Loads the selected form (DefaultFormAlias when none is selected) into the grid.
+    void FillData();
+    void setbuttons();
+    void cmdWhereShow(const QString& KeyType);
+    void cmdWhereShow2(const QString& KeyType, bool LockAfterShow);
+    void cmdCancel_Click();
+    QString SelectQuickForm(const QString& QuickFormAlias);
+    QString SelectQuickForm2(const QString& QuickFormAlias, int HF);
+    QString SelectQuickForm3(const QString& QuickFormAlias, int HF, const QString& CustomFilter);
+    // Lets the user pick a form of the group (the selector's button).
+    void chooseForm();
+    // The tool-bar buttons.
+    void buttonClick(const QString& key);
+    // "Update": confirms, checks, writes every marked row in one transaction; true when saved.
+    bool save();
+
+Q_SIGNALS:
+    void CloseButtonClick();
+    void PrintButtonClick(const QString& PrintCommandAlias);
+    void PrintAutoClick(const QString& SQLStatement, int ReportMasterMode, const QString& CaptionList);
+    void ChangeGroup();
+
+protected:
+    QStringList propertyKeysRead() const override;
+
+private:
+    QString formTitle(Connection& app, Connection& data, const QString& alias) const;
+    void loadRows(Connection& data);
+    void enterMode(const QString& mode);
+    void print();
+    void applyFilter(const QString& text);
+    void pickIntoCell();
+    void fillNewRow(int row);
+    QString checkCell(int row, int col, const QVariant& value) const;
+    // The first blank that may not be blank, as its message; "" when every row is ready.
+    QString blankProblem() const;
+    // The first key marked for deletion that is still in use, as its message.
+    QString inUseProblem(Connection& data) const;
+    void writeRows(Connection& data, int& saved, int& deleted);
+    // "key=value" (quoted for a TEXT key) for the row's stored key, every key column of the form.
+    Sql keyCondition(int row) const;
+    QVariant keyValue(int row, int col) const;
+    QString text(const char* thai, const char* english) const;
+
+    QString m_runMode = QStringLiteral("BLANK");
+    QString m_quickGroup;
+    QString m_defaultFormAlias;
+    bool m_locked = false;
+    bool m_filtered = false;
+    QuickFormDefinition m_form;
+    QList<QPair<QString, QString>> m_groupForms;
+    QList<QVariantList> m_loaded;  // the values of the loaded rows, to see another user's change
+
+    QLabel* m_selectLabel = nullptr;
+    QLineEdit* m_selector = nullptr;
+    QToolButton* m_selectButton = nullptr;
+    QLabel* m_title = nullptr;
+    QToolBar* m_toolBar = nullptr;
+    QLineEdit* m_filter = nullptr;
+    GridEditor* m_grid = nullptr;
+};
+
+} // namespace qd8

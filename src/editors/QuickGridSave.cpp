@@ -1,0 +1,222 @@
+// Saving, deleting and printing of the quick form editor.
+#include "editors/QuickGrid.h"
+
+#include "foundation/Connection.h"
+#include "foundation/DbError.h"
+#include "foundation/Recordset.h"
+#include "foundation/Services.h"
+#include "foundation/Values.h"
+#include "widgets/GridEditor.h"
+
+namespace qd8 {
+
+namespace {
+
+const QString ConfirmTitle = QStringLiteral("ยืนยันคำสั่ง");
+
+bool isAutoNumber(const QuickFieldDefinition& field)
+{
+    return field.type == QLatin1String("AUTONUMBER");
+}
+
+QString plainCaption(const QuickFieldDefinition& field)
+{
+    QString caption = field.caption;
+    if (caption.endsWith(QLatin1String(" (F2)")))
+        caption.chop(5);
+    return caption;
+}
+
+} // namespace
+
+bool QuickGrid::save()
+{
+    auto& messages = Services::messages();
+    if (!messages.question(ConfirmTitle, QStringLiteral("ท่านต้องการบันทึกข้อมูลที่เปลี่ยนแปลงนี้ ใช่หรือไม่")))
+        return false;
+    if (m_filtered
+        && !messages.question(ConfirmTitle,
+            QStringLiteral("การใช้เครื่องมือ แสดงเฉพาะ ช่วยกรองข้อมูล อาจทำให้ข้อมูลที่ไม่แสดงถูกทับด้วยข้อมูลที่แสดงอยู่นี้") + QLatin1Char('\n')
+                + QStringLiteral("ท่านต้องการบันทึกข้อมูลที่เปลี่ยนแปลงนี้") + QStringLiteral(" ใช่หรือไม่")))
+        return false;
+    const QString blank = blankProblem();
+    if (!blank.isEmpty()) {
+        messages.critical(m_form.caption, blank);
+        return false;
+    }
+    int saved = 0, deleted = 0;
+    try {
+        Connection data;
+        data.open(DataConnectionString());
+        const QString inUse = inUseProblem(data);
+        if (!inUse.isEmpty()) {
+            messages.critical(m_form.caption, inUse);
+            return false;
+        }
+        // All rows or none: a failure anywhere leaves the table as it was and the grid as
+        // the user left it.
+        data.beginTrans();
+        try {
+            writeRows(data, saved, deleted);
+            data.commitTrans();
+        } catch (...) {
+            data.rollbackTrans();
+            throw;
+        }
+    } catch (const DbError& error) {
+        messages.critical(m_form.caption, error.message());
+        return false;
+    }
+    messages.information(m_form.caption, QStringLiteral("บันทึกข้อมูล  ") + QString::number(saved) + QStringLiteral(" รายการ   ลบข้อมูล ")
+            + QString::number(deleted) + QStringLiteral(" รายการ เรียบร้อย"));
+    FillData();
+    return true;
+}
+
+QString QuickGrid::blankProblem() const
+{
+    for (int row = 1; row <= m_grid->Rows(); ++row) {
+        if (m_grid->RowMark(row) != QLatin1String("E"))
+            continue;
+        for (int col = 1; col <= m_form.fields.size(); ++col) {
+            const QuickFieldDefinition& f = m_form.fields[col - 1];
+            if (!f.canBlank && !isAutoNumber(f) && qd8::text(m_grid->GetValue(row, col)).trimmed().isEmpty())
+                return QStringLiteral("กรุณาระบุ ") + f.caption + QStringLiteral(" ให้ถูกต้อง");
+        }
+    }
+    return {};
+}
+
+QVariant QuickGrid::keyValue(int row, int col) const
+{
+    // A row read from the table is found by the key it was read with.
+    return row <= m_loaded.size() ? m_loaded[row - 1].value(col - 1) : m_grid->GetValue(row, col);
+}
+
+Sql QuickGrid::keyCondition(int row) const
+{
+    Sql condition;
+    for (int col : m_form.keyColumns()) {
+        const QuickFieldDefinition& key = m_form.fields[col - 1];
+        const QString value = qd8::text(keyValue(row, col));
+        if (!condition.text().isEmpty())
+            condition += " AND ";
+        condition += key.fieldName + QStringLiteral("=");
+        condition += key.type == QLatin1String("TEXT") ? quoted(value) : Sql(value);
+    }
+    return condition;
+}
+
+QString QuickGrid::inUseProblem(Connection& data) const
+{
+    // A key still used elsewhere is not deleted: by the form's own check (its table and
+    // field), and by the check a column names (the quick form whose table refers to it).
+    for (int row = 1; row <= m_grid->Rows(); ++row) {
+        if (m_grid->RowMark(row) != QLatin1String("D") || row > m_loaded.size())
+            continue;
+        const QString key = qd8::text(keyValue(row, m_form.keyColumn));
+        if (m_form.deleteAuto && !m_form.deleteTable.isEmpty() && !m_form.deleteField.isEmpty()) {
+            Recordset rs;
+            rs.open(Sql("SELECT ") + m_form.deleteField + " FROM " + m_form.deleteTable + " WHERE " + m_form.deleteField + "=" + quoted(key), data);
+            if (!rs.eof())
+                return (m_form.deleteMessage.isEmpty() ? text("ข้อมูลนี้ถูกใช้งานแล้ว ลบไม่ได้", "This entry is in use and cannot be deleted")
+                                                       : m_form.deleteMessage)
+                    + QStringLiteral(" (") + key + QLatin1Char(')');
+        }
+        for (int col = 1; col <= m_form.fields.size(); ++col) {
+            const QuickFieldDefinition& f = m_form.fields[col - 1];
+            if (f.canDeleteAlias.isEmpty())
+                continue;
+            Connection app;
+            app.open(ConnectionString());
+            Recordset other;
+            other.open(Sql("SELECT TQFmTable, TQFmKeyIDEN FROM QD8TQuickForm WHERE TQFmAlias=") + quoted(f.canDeleteAlias), app);
+            if (other.eof())
+                continue;
+            const QString referring = other.text(QStringLiteral("TQFmKeyIDEN")) + f.fieldName;
+            Recordset used;
+            used.open(Sql("SELECT ") + referring + " FROM " + other.text(QStringLiteral("TQFmTable")) + " WHERE " + referring + "="
+                    + quoted(qd8::text(keyValue(row, col))),
+                data);
+            if (!used.eof())
+                return text("%1 %2 ยังถูกใช้งานอยู่ ลบไม่ได้", "%1 %2 is still in use and cannot be deleted").arg(plainCaption(f), qd8::text(keyValue(row, col)));
+        }
+    }
+    return {};
+}
+
+void QuickGrid::writeRows(Connection& data, int& saved, int& deleted)
+{
+    const QuickFieldDefinition& key = m_form.keyDefinition();
+    for (int row = 1; row <= m_grid->Rows(); ++row) {
+        if (m_grid->RowMark(row) != QLatin1String("D") || qd8::text(keyValue(row, m_form.keyColumn)).isEmpty())
+            continue;
+        data.execute(Sql("DELETE  FROM ") + m_form.table + " WHERE " + keyCondition(row));
+        ++deleted;
+    }
+    for (int row = 1; row <= m_grid->Rows(); ++row) {
+        if (m_grid->RowMark(row) != QLatin1String("E"))
+            continue;
+        const bool loaded = row <= m_loaded.size();
+        try {
+            Recordset rs;
+            const bool fresh = isAutoNumber(key) && qd8::text(m_grid->GetValue(row, m_form.keyColumn)).isEmpty();
+            if (!fresh)
+                rs.open(Sql("SELECT * FROM ") + m_form.table + " WHERE " + keyCondition(row), data, Recordset::adOpenKeyset,
+                    Recordset::adLockOptimistic);
+            if (loaded && (fresh || rs.eof()))
+                throw DbError(DbError::Kind::Conflict, text("ผู้ใช้อื่นลบรายการนี้ไปแล้ว", "Another user deleted this entry"));
+            if (loaded) {
+                for (int col = 1; col <= m_form.fields.size(); ++col)
+                    if (qd8::text(rs.field(m_form.fields[col - 1].fieldName)) != qd8::text(m_loaded[row - 1].value(col - 1)))
+                        throw DbError(DbError::Kind::Conflict, text("ผู้ใช้อื่นแก้ไขรายการนี้ไปแล้ว", "Another user changed this entry"));
+            } else if (!fresh && !rs.eof()) {
+                throw DbError(DbError::Kind::Conflict, text("%1 %2 มีอยู่แล้ว", "%1 %2 already exists")
+                                                           .arg(plainCaption(key), qd8::text(m_grid->GetValue(row, m_form.keyColumn))));
+            }
+            if (fresh) {
+                rs.open(Sql("SELECT * FROM ") + m_form.table + " WHERE 1=0", data, Recordset::adOpenKeyset, Recordset::adLockOptimistic);
+            }
+            if (rs.eof())
+                rs.addNew();
+            for (int col = 1; col <= m_form.fields.size(); ++col) {
+                const QuickFieldDefinition& f = m_form.fields[col - 1];
+                if (!isAutoNumber(f))
+                    rs.setField(f.fieldName, m_grid->GetValue(row, col));
+            }
+            rs.update();
+            ++saved;
+        } catch (const DbError& error) {
+            throw DbError(error.kind(), text("รายการที่ %1: %2", "Row %1: %2").arg(row).arg(error.message()), error.statement());
+        }
+    }
+}
+
+void QuickGrid::print()
+{
+    if (!m_form.printCommand.isEmpty()) {
+        Q_EMIT PrintButtonClick(m_form.printCommand);
+        return;
+    }
+    if (m_form.masterReportNo < 1 || m_form.fields.size() < 3)
+        return;
+    const QList<QuickFieldDefinition>& f = m_form.fields;
+    QString sql, captions;
+    if (m_form.masterReportNo == 1) {
+        sql = QStringLiteral("SELECT ") + f[0].fieldName + QStringLiteral(" AS TDivCode, ") + f[1].fieldName + QStringLiteral(" AS TDivName, ")
+            + m_form.keyPrefix + QStringLiteral("Flag1 AS TDivFlag1 FROM ") + m_form.table + QStringLiteral(" ORDER BY ") + f[0].fieldName;
+        captions = QStringLiteral("Title;") + m_form.caption + QStringLiteral("#Caption1;") + plainCaption(f[0]) + QStringLiteral("#Caption2;")
+            + plainCaption(f[1]);
+    } else {
+        if (f.size() < 4)
+            return;
+        sql = QStringLiteral("SELECT ") + f[0].fieldName + QStringLiteral(" AS TDivCode, ") + f[1].fieldName + QStringLiteral(" AS TDivName, ")
+            + f[2].fieldName + QStringLiteral(" AS TDivName2 ,") + m_form.keyPrefix + QStringLiteral("Flag1 AS TDivFlag1 FROM ") + m_form.table
+            + QStringLiteral(" ORDER BY ") + f[0].fieldName;
+        captions = QStringLiteral("Title;") + m_form.caption + QStringLiteral("#Caption1;") + plainCaption(f[0]) + QStringLiteral("#Caption2;")
+            + plainCaption(f[1]) + QStringLiteral("#Caption3;") + plainCaption(f[2]);
+    }
+    Q_EMIT PrintAutoClick(sql, m_form.masterReportNo, captions);
+}
+
+} // namespace qd8
