@@ -1,0 +1,263 @@
+#include "support/SampleCompany.h"
+#include "support/ScriptedServices.h"
+
+#include "editors/QuickGrid.h"
+#include "foundation/Connection.h"
+#include "foundation/Recordset.h"
+#include "foundation/SqlTrace.h"
+#include "widgets/GridEditor.h"
+#include "widgets/GridEditorModel.h"
+
+#include <QAction>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace qd8;
+using namespace qd8::test;
+
+namespace {
+
+// Two quick forms over the divisions and departments of the company data:
+//   QDIV  key TDivCode (TEXT, not blank, not duplicate), name (not blank, at most 30
+//         characters), English name, sort (NUMBER 0..999); automatic print mode 1;
+//         a division a department uses cannot be deleted (the form's own check).
+//   QDEP  key TDepCode, name, division code with QDIV as its F2 pick list; print command.
+class QuickGridTest : public SampleCompanyTest {
+protected:
+    void SetUp() override
+    {
+        SampleCompanyTest::SetUp();
+        if (IsSkipped())
+            return;
+        runOnApp({
+            "INSERT INTO QD8TQuickForm (TQFmAlias, TQFmCaption, TQFmCaption2, TQFmTCmGAlias, TQFmTable, TQFmView, TQFmKeyIDEN, TQFmPKList, TQFmOrder, "
+            "TQFMMasterReportNo, TQFmDeleteAuto, TQFmDeleteTable, TQFmDeleteField, TQFmDeleteMessage, TQFmSort) VALUES ('QDIV', 'ฝ่าย', 'Divisions', 'GL', "
+            "'QD8TDivision', 'QD8TDivision', 'TDiv', 'TDivCode', 'TDivSort', 1, 1, 'QD8TDepartment', 'TDepTDivCode', 'ฝ่ายนี้มีแผนกใช้อยู่', 91)",
+            "INSERT INTO QD8TQuickForm (TQFmAlias, TQFmCaption, TQFmCaption2, TQFmTCmGAlias, TQFmTable, TQFmView, TQFmKeyIDEN, TQFmPKList, TQFmOrder, "
+            "TQFmPrintTCmdAlias, TQFmSort) VALUES ('QDEP', 'แผนก', 'Departments', 'GL', 'QD8TDepartment', 'QD8TDepartment', 'TDep', 'TDepCode', "
+            "'TDepCode', 'GLTB', 92)",
+            field(9001, "QDIV", 1, "TDivCode", "รหัสฝ่าย", "TEXT", "TQFFPrimaryKey, TQFFCanBlank, TQFFCanDuplicate, TQFFWidth", "1, 0, 0, 1200"),
+            field(9002, "QDIV", 2, "TDivName", "ชื่อฝ่าย", "TEXT", "TQFFCanBlank, TQFFMaxlength, TQFFWidth", "0, 30, 3000"),
+            field(9003, "QDIV", 3, "TDivName2", "ชื่ออังกฤษ", "TEXT", "TQFFWidth", "3000"),
+            field(9004, "QDIV", 4, "TDivSort", "ลำดับ", "NUMBER", "TQFFMinCon, TQFFMinValue, TQFFMaxCon, TQFFMaxValue, TQFFWidth", "1, 0, 1, 999, 800"),
+            field(9005, "QDIV", 5, "TDivName", "ไม่ใช้", "TEXT", "TQFFFlag1", "0"),
+            field(9011, "QDEP", 1, "TDepCode", "รหัสแผนก", "TEXT", "TQFFPrimaryKey, TQFFCanBlank", "1, 0"),
+            field(9012, "QDEP", 2, "TDepName", "ชื่อแผนก", "TEXT", "TQFFCanBlank", "0"),
+            field(9013, "QDEP", 3, "TDepTDivCode", "ฝ่าย", "TEXT", "TQFFRunQuickForm", "'QDIV'"),
+        });
+        runOnData({"DELETE FROM QD8TDepartment", "DELETE FROM QD8TDivision",
+            "INSERT INTO QD8TDivision (TDivCode, TDivName, TDivName2, TDivSort, TDivFlag1) VALUES ('D01', 'บัญชี', 'Accounting', 1, 1)",
+            "INSERT INTO QD8TDivision (TDivCode, TDivName, TDivName2, TDivSort, TDivFlag1) VALUES ('D02', 'ขาย', 'Sales', 2, 1)",
+            "INSERT INTO QD8TDivision (TDivCode, TDivName, TDivName2, TDivSort, TDivFlag1) VALUES ('D03', 'เลิกใช้', 'Retired', 3, 0)",
+            "INSERT INTO QD8TDepartment (TDepCode, TDepName, TDepTDivCode) VALUES ('P01', 'บัญชีทั่วไป', 'D01')"});
+        grid.setConnectionString(appConnectionString());
+        grid.setDataConnectionString(dataConnectionString());
+        grid.SetLast2("C:\\QD8\\", "QuickGrid", "1", dataConnectionString(), appConnectionString());
+    }
+    static QString field(int id, const char* form, int sort, const char* name, const char* caption, const char* type, const char* columns,
+        const char* values)
+    {
+        return QStringLiteral("INSERT INTO QD8TQuickField (TQFFID, TQFFTQFmAlias, TQFFSort, TQFFFieldName, TQFFCaption, TQFFCaption2, TQFFFieldType, %1) "
+                              "VALUES (%2, '%3', %4, '%5', '%6', '%5', '%7', %8)")
+            .arg(QLatin1String(columns)).arg(id).arg(QLatin1String(form)).arg(sort).arg(QLatin1String(name), QString::fromUtf8(caption),
+                QLatin1String(type), QLatin1String(values));
+    }
+    QStringList divisions() const
+    {
+        Connection c;
+        c.open(dataConnectionString());
+        Recordset rs;
+        rs.open("SELECT TDivCode, TDivName, TDivSort FROM QD8TDivision ORDER BY TDivCode", c);
+        QStringList rows;
+        for (; !rs.eof(); rs.moveNext())
+            rows << rs.text("TDivCode") + "|" + rs.text("TDivName") + "|" + QString::number(rs.field("TDivSort").toInt());
+        return rows;
+    }
+    QStringList visibleButtons() const
+    {
+        QStringList keys;
+        for (const QString& key : QuickGrid::ButtonKeys)
+            if (grid.button(key)->isVisible())
+                keys << key;
+        return keys;
+    }
+    QuickGrid grid;
+};
+
+TEST_P(QuickGridTest, LoadingReadsTheActiveFormItsActiveFieldsAndTheRows)
+{
+    SqlTrace::Recorder trace;
+    grid.cmdWhereShow("QDIV");
+    const QStringList sent = trace.composed();
+    EXPECT_TRUE(sent.contains("SELECT * FROM QD8TQuickForm WHERE TQFmAlias='QDIV' AND TQFMFlag1=1"));
+    EXPECT_TRUE(sent.contains("SELECT * FROM QD8TQuickField WHERE TQFFTQFmAlias='QDIV' AND TQFFFlag1=1 ORDER BY TQFFSort"));
+    EXPECT_TRUE(sent.contains("SELECT * FROM QD8TDivision ORDER BY TDivSort"));
+    GridEditor* g = grid.grid();
+    ASSERT_EQ(g->Cols(), 5);  // four active fields and the active flag
+    EXPECT_EQ(g->TextMatrix(0, 1), "รหัสฝ่าย");
+    EXPECT_EQ(g->TextMatrix(0, 5), "แสดง");
+    EXPECT_EQ(grid.form().keyField, "TDivCode");
+    ASSERT_EQ(g->Rows(), 3);
+    EXPECT_EQ(g->TextMatrix(2, 2), "ขาย");
+    EXPECT_EQ(g->GetValue(3, 5).toInt(), 0);
+    EXPECT_EQ(grid.RUNMODE(), "VIEW");
+
+    QuickGrid departments;
+    departments.setConnectionString(appConnectionString());
+    departments.setDataConnectionString(dataConnectionString());
+    departments.cmdWhereShow2("QDEP", true);
+    EXPECT_EQ(departments.grid()->TextMatrix(0, 3), "ฝ่าย (F2)");  // a column with a pick list says so
+    EXPECT_TRUE(departments.selectorLocked());
+}
+
+TEST_P(QuickGridTest, TheToolBarFollowsTheMode)
+{
+    EXPECT_EQ(visibleButtons(), QStringList{"Close"});
+    QSignalSpy changed(&grid, &QuickGrid::ChangeGroup);
+    grid.cmdWhereShow("QDIV");
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(visibleButtons(), (QStringList{"Add", "Filter", "Edit", "Close", "Print"}));
+    EXPECT_TRUE(grid.grid()->ReadOnly());
+    grid.button("Edit")->trigger();
+    EXPECT_EQ(grid.RUNMODE(), "EDIT");
+    EXPECT_EQ(visibleButtons(), (QStringList{"Add", "Delete", "Filter", "Update", "Cancel"}));
+    EXPECT_FALSE(grid.grid()->ReadOnly());
+    grid.button("Cancel")->trigger();
+    EXPECT_EQ(grid.RUNMODE(), "VIEW");
+}
+
+TEST_P(QuickGridTest, SavingWritesEveryMarkedRowAndCountsThem)
+{
+    grid.cmdWhereShow("QDIV");
+    grid.button("Edit")->trigger();
+    GridEditor* g = grid.grid();
+    g->SetValue(1, 2, "บัญชีและการเงิน");
+    g->DeleteRow(3);
+    const int added = g->AddRow();
+    g->SetValue(added, 1, "D04");
+    g->SetValue(added, 2, "จัดซื้อ");
+    g->SetValue(added, 4, 4);
+    const int dropped = g->AddRow();  // added, then deleted before saving: skipped
+    g->DeleteRow(dropped);
+    scriptedMessages().answers = {true};
+    SqlTrace::Recorder trace;
+    ASSERT_TRUE(grid.save());
+    EXPECT_TRUE(trace.composed().contains("DELETE  FROM QD8TDivision WHERE TDivCode='D03'"));
+    EXPECT_TRUE(trace.composed().contains("SELECT * FROM QD8TDivision WHERE TDivCode='D01'"));
+    EXPECT_EQ(divisions(), (QStringList{"D01|บัญชีและการเงิน|1", "D02|ขาย|2", "D04|จัดซื้อ|4"}));
+    const auto& shown = scriptedMessages().shown;
+    ASSERT_EQ(shown.size(), 2);
+    EXPECT_EQ(shown[0].kind, "question");
+    EXPECT_EQ(shown[0].title, "ยืนยันคำสั่ง");
+    EXPECT_EQ(shown[0].text, "ท่านต้องการบันทึกข้อมูลที่เปลี่ยนแปลงนี้ ใช่หรือไม่");
+    EXPECT_EQ(shown[1].text, "บันทึกข้อมูล  2 รายการ   ลบข้อมูล 1 รายการ เรียบร้อย");
+    EXPECT_EQ(grid.RUNMODE(), "VIEW");
+    EXPECT_EQ(g->Rows(), 3);
+}
+
+TEST_P(QuickGridTest, NothingIsWrittenWhenTheUserSaysNoOrABlankIsLeft)
+{
+    grid.cmdWhereShow("QDIV");
+    grid.button("Add")->trigger();
+    GridEditor* g = grid.grid();
+    g->SetValue(4, 1, "D05");  // no name
+    scriptedMessages().answers = {false, true};
+    EXPECT_FALSE(grid.save());
+    EXPECT_EQ(grid.RUNMODE(), "ADD");
+    EXPECT_FALSE(grid.save());
+    const auto& shown = scriptedMessages().shown;
+    ASSERT_EQ(shown.size(), 3);
+    EXPECT_EQ(shown[2].kind, "critical");
+    EXPECT_EQ(shown[2].text, "กรุณาระบุ ชื่อฝ่าย ให้ถูกต้อง");
+    EXPECT_EQ(divisions().size(), 3);
+    EXPECT_EQ(g->Rows(), 4);  // the grid keeps what the user typed
+}
+
+TEST_P(QuickGridTest, ABatchThatFailsHalfwayLeavesTheTableAsItWas)
+{
+    grid.cmdWhereShow("QDIV");
+    grid.button("Edit")->trigger();
+    GridEditor* g = grid.grid();
+    g->SetValue(1, 2, "เปลี่ยนแล้ว");
+    g->DeleteRow(2);
+    const int first = g->AddRow();
+    g->SetValue(first, 1, "D09");
+    g->SetValue(first, 2, "หนึ่ง");
+    const int second = g->AddRow();
+    g->SetValue(second, 1, "D09");  // the same key again: refused at the second row
+    g->SetValue(second, 2, "สอง");
+    const QStringList before = divisions();
+    scriptedMessages().answers = {true};
+    EXPECT_FALSE(grid.save());
+    EXPECT_EQ(divisions(), before);
+    ASSERT_EQ(scriptedMessages().shown.size(), 2);
+    EXPECT_EQ(scriptedMessages().shown[1].kind, "critical");
+    EXPECT_TRUE(scriptedMessages().shown[1].text.contains(QString::number(second)));
+    EXPECT_EQ(grid.RUNMODE(), "EDIT");
+}
+
+TEST_P(QuickGridTest, AnotherUsersChangeIsReportedNotOverwritten)
+{
+    grid.cmdWhereShow("QDIV");
+    grid.button("Edit")->trigger();
+    grid.grid()->SetValue(1, 2, "ของฉัน");
+    runOnData({"UPDATE QD8TDivision SET TDivName='ของคนอื่น' WHERE TDivCode='D01'"});
+    scriptedMessages().answers = {true};
+    EXPECT_FALSE(grid.save());
+    EXPECT_EQ(divisions().first(), "D01|ของคนอื่น|1");
+    EXPECT_TRUE(scriptedMessages().shown.last().text.contains("แก้ไขรายการนี้ไปแล้ว"));
+
+    runOnData({"DELETE FROM QD8TDivision WHERE TDivCode='D02'"});
+    grid.cmdCancel_Click();
+    grid.button("Edit")->trigger();
+    runOnData({"DELETE FROM QD8TDivision WHERE TDivCode='D01'"});
+    grid.grid()->SetValue(1, 2, "ของฉัน");
+    scriptedMessages().answers = {true};
+    EXPECT_FALSE(grid.save());
+    EXPECT_TRUE(scriptedMessages().shown.last().text.contains("ลบรายการนี้ไปแล้ว"));
+}
+
+TEST_P(QuickGridTest, AKeyStillInUseIsNotDeleted)
+{
+    grid.cmdWhereShow("QDIV");
+    grid.button("Edit")->trigger();
+    grid.grid()->DeleteRow(1);  // D01 has a department
+    scriptedMessages().answers = {true};
+    EXPECT_FALSE(grid.save());
+    EXPECT_EQ(scriptedMessages().shown.last().text, "ฝ่ายนี้มีแผนกใช้อยู่ (D01)");
+    EXPECT_EQ(divisions().size(), 3);
+}
+
+TEST_P(QuickGridTest, CellChecksRefuseDuplicatesBoundsAndLength)
+{
+    grid.cmdWhereShow("QDIV");
+    grid.button("Edit")->trigger();
+    // As the user types into row 1: through the grid's model, where the checks apply.
+    const auto typeIntoCell = [&](int col, const QVariant& value) {
+        GridEditorModel* model = grid.grid()->model();
+        model->setData(model->index(0, col - 1), value.toString(), Qt::EditRole);
+    };
+    const struct {
+        int col;
+        QVariant value;
+        bool refused;
+    } cases[] = {
+        {1, "D02", true},                       // already in row 2
+        {1, "D09", false},
+        {2, QString(31, QChar(0x0E01)), true},  // 31 characters, 30 allowed
+        {2, QString(30, QChar(0x0E01)), false},
+        {4, -1, true},
+        {4, 999, false},
+        {4, 1000, true},
+    };
+    for (const auto& c : cases) {
+        const QVariant before = grid.grid()->GetValue(1, c.col);
+        typeIntoCell(c.col, c.value);
+        EXPECT_EQ(grid.grid()->GetValue(1, c.col) == before, c.refused) << c.col << " " << c.value.toString().toStdString();
+        grid.grid()->SetValue(1, c.col, before);
+    }
+}
+
+QD8_ON_BOTH_ENGINES(QuickGridTest);
+
+} // namespace

@@ -1,0 +1,164 @@
+#include "support/SampleCompany.h"
+#include "support/ScriptedServices.h"
+
+#include "editors/QuickGrid.h"
+#include "foundation/SqlTrace.h"
+#include "widgets/GridEditor.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace qd8;
+using namespace qd8::test;
+
+namespace {
+
+// Pick lists, the form selector and printing of the quick form editor, on a form of
+// branches (QBRA: code, name, a label-list status, English name) whose widths the tests
+// set, and on the sample's employee types (EMPTYPE).
+class QuickGridPickTest : public SampleCompanyTest {
+protected:
+    void SetUp() override
+    {
+        SampleCompanyTest::SetUp();
+        if (IsSkipped())
+            return;
+        runOnApp({"INSERT INTO QD8TQuickForm (TQFmAlias, TQFmCaption, TQFmCaption2, TQFmTCmGAlias, TQFmTable, TQFmView, TQFmKeyIDEN, TQFmPKList, "
+                  "TQFMMasterReportNo) VALUES ('QBRA', 'สาขา', 'Branches', 'AR', 'QD8TBranch', 'QD8TBranch', 'TBra', ',TBraCode', 2)",
+            "INSERT INTO QD8TQuickField (TQFFID, TQFFTQFmAlias, TQFFSort, TQFFFieldName, TQFFCaption, TQFFCaption2, TQFFFieldType, TQFFPrimaryKey, TQFFWidth) "
+            "VALUES (9101, 'QBRA', 1, 'TBraCode', 'รหัส', 'Code', 'TEXT', 1, 2000)",
+            "INSERT INTO QD8TQuickField (TQFFID, TQFFTQFmAlias, TQFFSort, TQFFFieldName, TQFFCaption, TQFFCaption2, TQFFFieldType, TQFFWidth) "
+            "VALUES (9102, 'QBRA', 2, 'TBraName', 'ชื่อสาขา', 'Name', 'TEXT', 4000)",
+            "INSERT INTO QD8TQuickField (TQFFID, TQFFTQFmAlias, TQFFSort, TQFFFieldName, TQFFCaption, TQFFCaption2, TQFFFieldType, TQFFWidth, TQFFFlag1) "
+            "VALUES (9103, 'QBRA', 3, 'TBraSort', 'ลำดับ', 'Order', 'LABELLIST', 2000, 0)",
+            "INSERT INTO QD8TQuickField (TQFFID, TQFFTQFmAlias, TQFFSort, TQFFFieldName, TQFFCaption, TQFFCaption2, TQFFFieldType, TQFFWidth) "
+            "VALUES (9104, 'QBRA', 4, 'TBraName2', 'ชื่ออังกฤษ', 'English', 'TEXT', 2000)"});
+        grid.setConnectionString(appConnectionString());
+        grid.setDataConnectionString(dataConnectionString());
+        grid.SetLast2("C:\\QD8\\", "QuickGrid", "2", dataConnectionString(), appConnectionString());  // JOHN, English
+    }
+    void setWidth(int id, int width) { runOnApp({QStringLiteral("UPDATE QD8TQuickField SET TQFFWidth=%1 WHERE TQFFID=%2").arg(width).arg(id)}); }
+    PickRequest pick(const char* alias, int hf = 0, const char* filter = "")
+    {
+        scriptedPicker().requests.clear();
+        grid.SelectQuickForm3(QString::fromLatin1(alias), hf, QString::fromLatin1(filter));
+        return scriptedPicker().requests.value(0);
+    }
+    QuickGrid grid;
+};
+
+TEST_P(QuickGridPickTest, ThePickQueryListsEveryFieldAndFiltersActiveRows)
+{
+    const PickRequest request = pick("QBRA");
+    EXPECT_EQ(request.title, "Branches");
+    EXPECT_EQ(request.keyField, "TBraCode");  // the leading comma is dropped
+    EXPECT_EQ(request.fieldList, "TBraCode,TBraName,TBraSort,TBraName2");  // inactive fields too
+    EXPECT_EQ(request.captionList, "Code,Name,Order,English");
+    EXPECT_EQ(request.widthList, "2000,4000,2000,2000");
+    EXPECT_EQ(request.typeList, "0,0,13,0");
+    EXPECT_EQ(request.source, "QD8TBranch WHERE TBraFlag1=1");
+    EXPECT_EQ(request.connectionString, dataConnectionString());
+    EXPECT_EQ(request.dialogWidth, 0);  // exactly 10000 twips: the list sizes itself
+    setWidth(9104, 2001);
+    EXPECT_EQ(pick("QBRA").dialogWidth, 10000);
+
+    EXPECT_EQ(pick("QBRA", 0, "AND TBraCode<>'HQ'").source, "QD8TBranch WHERE TBraFlag1=1 AND TBraCode<>'HQ'");
+    runOnApp({"UPDATE QD8TQuickForm SET TQFmWhere='TBraSort>0', TQFmOrder='TBraSort' WHERE TQFmAlias='QBRA'"});
+    EXPECT_EQ(pick("QBRA").source, "QD8TBranch WHERE TBraSort>0 ORDER BY TBraSort");  // the form's own filter replaces the flag filter
+
+    scriptedPicker().requests.clear();
+    EXPECT_EQ(grid.SelectQuickForm("NOSUCHFORM"), "");
+    EXPECT_TRUE(scriptedPicker().requests.isEmpty());
+}
+
+TEST_P(QuickGridPickTest, EmployeeTableFormsAreLimitedToTheUsersEmployeeTypes)
+{
+    // A form named after an employee table is scoped; the sample's EMPTYPE is not.
+    runOnApp({"INSERT INTO QD8TQuickForm (TQFmAlias, TQFmCaption, TQFmCaption2, TQFmTable, TQFmView, TQFmKeyIDEN, TQFmPKList, TQFmOrder) "
+              "VALUES ('QD8TEmployeeType', 'ประเภท', 'Types', 'QD8TEmployeeType', 'QD8TEmployeeType', 'TEmT', 'TEmTCode', 'TEmTSort')",
+        "INSERT INTO QD8TQuickField (TQFFID, TQFFTQFmAlias, TQFFSort, TQFFFieldName, TQFFCaption, TQFFCaption2, TQFFPrimaryKey) "
+        "VALUES (9201, 'QD8TEmployeeType', 1, 'TEmTCode', 'รหัส', 'Code', 1)"});
+    EXPECT_EQ(pick("EMPTYPE", 1).source, "QD8TEmployeeType WHERE TEmTFlag1=1 ORDER BY TEmTSort");
+    EXPECT_EQ(pick("QD8TEmployeeType", 0).source, "QD8TEmployeeType WHERE TEmTFlag1=1 ORDER BY TEmTSort");
+    // JOHN (user 2) sees employee types 01 and 02 at level 0, asked for with HF 1.
+    EXPECT_EQ(pick("QD8TEmployeeType", 1).source, "QD8TEmployeeType WHERE TEmTFlag1=1 AND TEmTCode IN ('01','02') ORDER BY TEmTSort");
+    EXPECT_EQ(pick("QD8TEmployeeType", 2).source, "QD8TEmployeeType WHERE TEmTFlag1=1 ORDER BY TEmTSort");  // nothing at level 1
+}
+
+TEST_P(QuickGridPickTest, F2PutsThePickedKeyIntoTheCurrentCell)
+{
+    runOnApp({"UPDATE QD8TQuickField SET TQFFRunQuickForm='EMPTYPE' WHERE TQFFID=9104"});
+    grid.cmdWhereShow("QBRA");
+    GridEditor* g = grid.grid();
+    ASSERT_GE(g->Rows(), 1);
+    scriptedPicker().answers = {"02", ""};
+    g->setRow(1);
+    g->setCol(3);
+    QTest::keyClick(g->findChild<QAbstractItemView*>(), Qt::Key_F2);  // VIEW: no pick
+    EXPECT_TRUE(scriptedPicker().requests.isEmpty());
+    grid.button("Edit")->trigger();
+    const QString before = g->TextMatrix(1, 3);
+    QTest::keyClick(g->findChild<QAbstractItemView*>(), Qt::Key_F2);
+    EXPECT_EQ(g->GetValue(1, 3).toString(), "02");
+    EXPECT_EQ(g->RowMark(1), "E");
+    QTest::keyClick(g->findChild<QAbstractItemView*>(), Qt::Key_F2);  // cancelled: the cell stays
+    EXPECT_EQ(g->GetValue(1, 3).toString(), "02");
+    EXPECT_EQ(scriptedPicker().requests.size(), 2);
+    EXPECT_NE(before, "02");
+}
+
+TEST_P(QuickGridPickTest, TheSelectorListsOneGroupOrEveryGroup)
+{
+    SqlTrace::Recorder trace;
+    grid.setQuickGroup("SM");
+    grid.Refresh();
+    EXPECT_TRUE(trace.composed().contains("SELECT * FROM QD8VQuickGroup WHERE TCmGAlias='SM' ORDER BY TQfMSort"));
+    scriptedPicker().answers = {"QBRA"};
+    QSignalSpy changed(&grid, &QuickGrid::ChangeGroup);
+    grid.chooseForm();
+    EXPECT_EQ(scriptedPicker().requests.last().source, "QD8VQuickGroupBK WHERE TQFmFlag1=1 AND TCmGFlag1=1 ORDER BY TQFmCaption");
+    EXPECT_EQ(scriptedPicker().requests.last().fieldList, "TQFmAlias,TQFmCaption2");
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(grid.selectedAlias(), "QBRA");
+
+    grid.setQuickGroup("AR");
+    grid.Refresh();
+    ASSERT_FALSE(grid.groupForms().isEmpty());
+    EXPECT_EQ(grid.groupForms().last(), (QPair<QString, QString>{"QBRA", "Branches"}));
+    grid.chooseForm();
+    EXPECT_EQ(scriptedPicker().requests.last().source,
+        "QD8VQuickGroup WHERE TQFmFlag1=1 AND TCmGFlag1=1 AND TCmGAlias='AR' ORDER BY TQFmCaption");
+}
+
+TEST_P(QuickGridPickTest, AutomaticPrintHandsTheCodeListStatementToTheHost)
+{
+    QList<QStringList> printed;
+    QObject::connect(&grid, &QuickGrid::PrintAutoClick, [&](const QString& sql, int mode, const QString& captions) {
+        printed.append({sql, QString::number(mode), captions});
+    });
+    grid.cmdWhereShow("QBRA");
+    grid.button("Print")->trigger();
+    runOnApp({"UPDATE QD8TQuickForm SET TQFMMasterReportNo=1 WHERE TQFmAlias='QBRA'"});
+    grid.cmdWhereShow("QBRA");
+    grid.button("Print")->trigger();
+    ASSERT_EQ(printed.size(), 2);
+    EXPECT_EQ(printed[0][0], "SELECT TBraCode AS TDivCode, TBraName AS TDivName, TBraName2 AS TDivName2 ,TBraFlag1 AS TDivFlag1 FROM QD8TBranch ORDER BY TBraCode");
+    EXPECT_EQ(printed[0][1], "2");
+    EXPECT_EQ(printed[0][2], "Title;Branches#Caption1;Code#Caption2;Name#Caption3;English");
+    EXPECT_EQ(printed[1][0], "SELECT TBraCode AS TDivCode, TBraName AS TDivName, TBraFlag1 AS TDivFlag1 FROM QD8TBranch ORDER BY TBraCode");
+    EXPECT_EQ(printed[1][2], "Title;Branches#Caption1;Code#Caption2;Name");
+
+    QStringList commands;
+    QObject::connect(&grid, &QuickGrid::PrintButtonClick, [&](const QString& alias) { commands << alias; });
+    runOnApp({"UPDATE QD8TQuickForm SET TQFmPrintTCmdAlias='GLTB' WHERE TQFmAlias='QBRA'"});
+    grid.cmdWhereShow("QBRA");
+    grid.button("Print")->trigger();
+    EXPECT_EQ(commands, QStringList{"GLTB"});
+    EXPECT_EQ(printed.size(), 2);
+}
+
+QD8_ON_BOTH_ENGINES(QuickGridPickTest);
+
+} // namespace
