@@ -21,7 +21,18 @@ ListPrinter::ListPrinter(const QString& title, const QString& sql, const QString
     : m_title(title)
 {
     QString body;
-    const QStringList captions = splitList(captionList);
+    QStringList captions = splitList(captionList);
+    // An editor's code list names its title and columns: "Title;X#Caption1;A#Caption2;B".
+    if (captionList.startsWith(QLatin1String("Title;"))) {
+        captions.clear();
+        for (const QString& part : captionList.split(QLatin1Char('#'))) {
+            const QString value = part.section(QLatin1Char(';'), 1);
+            if (part.startsWith(QLatin1String("Title;")))
+                m_title = value;
+            else
+                captions << value;
+        }
+    }
     body += QStringLiteral("<tr>");
     for (const QString& caption : captions)
         body += QStringLiteral("<th>%1</th>").arg(caption.toHtmlEscaped());
@@ -42,7 +53,7 @@ ListPrinter::ListPrinter(const QString& title, const QString& sql, const QString
     }
     m_html = QStringLiteral("<html><body><h2>%1</h2><p>%2 — %3</p>"
                             "<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\">%4</table></body></html>")
-                 .arg(title.toHtmlEscaped(), QDateTime::currentDateTime().toString(QStringLiteral("dd/MM/yyyy HH:mm")))
+                 .arg(m_title.toHtmlEscaped(), QDateTime::currentDateTime().toString(QStringLiteral("dd/MM/yyyy HH:mm")))
                  .arg(m_rows)
                  .arg(body);
 }

@@ -25,6 +25,7 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QListWidget>
+#include <QMetaClassInfo>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QStatusBar>
@@ -155,7 +156,11 @@ void WorkbenchWindow::setUpControl(HostedControl& control, const QString& comman
     // The session first (properties, then the session objects and SetLast2), then rights,
     // print command and parent form; the caller refreshes.
     const WorkbenchSession& s = m_session;
-    control.setConnectionString(s.sessionConnectionString);
+    // The editors name the application database with ConnectionString, the launchers the
+    // session database.
+    const int info = control.metaObject()->indexOfClassInfo("ConnectionString");
+    const bool application = info >= 0 && qstrcmp(control.metaObject()->classInfo(info).value(), "application") == 0;
+    control.setConnectionString(application ? s.appConnectionString : s.sessionConnectionString);
     control.setAppConnectionString(s.appConnectionString);
     control.setDataConnectionString(s.dataConnectionString);
     control.setUserID(s.userId);
@@ -302,8 +307,14 @@ void WorkbenchWindow::openForm(const QString& formName, const Command& command)
         connectEvents(form);
         const int index = m_tabs->addTab(form, command.caption);
         m_tabs->setCurrentIndex(index);
-        if (auto* control = qobject_cast<HostedControl*>(form))
+        if (auto* control = qobject_cast<HostedControl*>(form)) {
+            if (control->property("QuickGroup").isValid() && control->property("QuickGroup").toString().isEmpty())
+                control->setProperty("QuickGroup", command.group);
             control->Refresh();
+            // Editors load their rows after listing what they offer.
+            if (control->metaObject()->indexOfSlot("FillData()") >= 0)
+                QMetaObject::invokeMethod(control, "FillData");
+        }
     } catch (const DbError& error) {
         delete form;
         showStatus(error.message());

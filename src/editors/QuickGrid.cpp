@@ -217,7 +217,8 @@ void QuickGrid::FillData()
 {
     QString alias = m_selector->text().trimmed();
     if (alias.isEmpty()) {
-        alias = m_defaultFormAlias;
+        // The form to open first; without one, the first form of the group.
+        alias = !m_defaultFormAlias.isEmpty() || m_groupForms.isEmpty() ? m_defaultFormAlias : m_groupForms.first().first;
         m_selector->setText(alias);
     }
     m_grid->Clear();
