@@ -272,9 +272,9 @@ void QuickGrid::loadRows(Connection& data)
         values.reserve(columns.size());
         for (int index : columns)
             values << (index < 0 ? QVariant() : rs.field(index));
-        m_grid->AddItem(values);
         m_loaded << values;
     }
+    m_grid->AddItems(m_loaded);
 }
 
 void QuickGrid::enterMode(const QString& mode)

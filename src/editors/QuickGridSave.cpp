@@ -181,8 +181,13 @@ void QuickGrid::writeRows(Connection& data, int& saved, int& deleted)
                 rs.addNew();
             for (int col = 1; col <= m_form.fields.size(); ++col) {
                 const QuickFieldDefinition& f = m_form.fields[col - 1];
-                if (!isAutoNumber(f))
-                    rs.setField(f.fieldName, m_grid->GetValue(row, col));
+                if (isAutoNumber(f))
+                    continue;
+                // A read row writes only what the user changed.
+                const QVariant value = m_grid->GetValue(row, col);
+                if (loaded && qd8::text(value) == qd8::text(m_loaded[row - 1].value(col - 1)))
+                    continue;
+                rs.setField(f.fieldName, value);
             }
             rs.update();
             ++saved;

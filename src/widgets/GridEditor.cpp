@@ -463,6 +463,11 @@ int GridEditor::AddItem(const QVariantList& Values)
     return d->model->appendRow(Values) + 1;
 }
 
+int GridEditor::AddItems(const QList<QVariantList>& rows)
+{
+    return d->model->appendRows(rows) + 1;
+}
+
 int GridEditor::AddRow()
 {
     return d->appendNewRow() + 1;

@@ -85,6 +85,8 @@ public:
     // Appends a row read from the table, values in column order (codes for label lists,
     // numbers, dates, 1/0); the row is untouched. Returns its number.
     Q_INVOKABLE int AddItem(const QVariantList& Values);
+    // Appends many read rows at once (a form's whole table); returns the last row's number.
+    int AddItems(const QList<QVariantList>& Rows);
     // Appends a new row marked "E", makes it current and returns its number; 0 when adding
     // is refused.
     Q_INVOKABLE int AddRow();

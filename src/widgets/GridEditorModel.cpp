@@ -285,14 +285,25 @@ void GridEditorModel::setCellFormat(int row, int column, const GridColumn& forma
 
 int GridEditorModel::appendRow(const QVariantList& values)
 {
-    Row loaded;
-    for (int c = 0; c < m_columns.size(); ++c)
-        loaded.cells << m_columns[c].storedFromValue(values.value(c));
+    return appendRows({values});
+}
+
+int GridEditorModel::appendRows(const QList<QVariantList>& rows)
+{
     const int at = int(m_rows.size());
-    beginInsertRows({}, at, at);
-    m_rows.append(loaded);
+    if (rows.isEmpty())
+        return at - 1;
+    // One insertion for the whole batch: the views lay out once, not once per row.
+    QList<Row> loaded(rows.size());
+    for (qsizetype r = 0; r < rows.size(); ++r) {
+        loaded[r].cells.reserve(m_columns.size());
+        for (int c = 0; c < m_columns.size(); ++c)
+            loaded[r].cells << m_columns[c].storedFromValue(rows[r].value(c));
+    }
+    beginInsertRows({}, at, at + int(rows.size()) - 1);
+    m_rows.append(std::move(loaded));
     endInsertRows();
-    return at;
+    return int(m_rows.size()) - 1;
 }
 
 bool GridEditorModel::markDeleted(int row)

@@ -69,6 +69,8 @@ public:
 
     // A row read from the table: values in column order, untouched. Returns its row.
     int appendRow(const QVariantList& values);
+    // Appends read rows at once; returns the last one's index.
+    int appendRows(const QList<QVariantList>& rows);
     // Marks a row for deletion; a row added in the grid and never saved is removed instead.
     // False when the row was already marked or does not exist.
     bool markDeleted(int row);
