@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
+#include <libpq-fe.h>
+#include <sqlite3.h>
 #include <cstdio>
 #include <map>
 
@@ -125,6 +127,35 @@ benchmark::internal::Benchmark* registerOn(const EngineRun& run, const char* nam
         static_cast<const BenchDatabase*>(run.db))
         ->Unit(benchmark::kMillisecond)
         ->Repetitions(repetitions);
+}
+
+int readAllSqlite(sqlite3* handle, const char* sql)
+{
+    sqlite3_stmt* stmt = nullptr;
+    sqlite3_prepare_v2(handle, sql, -1, &stmt, nullptr);
+    const int columns = sqlite3_column_count(stmt);
+    QList<QString> cells;
+    int rows = 0;
+    for (; sqlite3_step(stmt) == SQLITE_ROW; ++rows)
+        for (int c = 0; c < columns; ++c)
+            cells.append(QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, c)), sqlite3_column_bytes(stmt, c)));
+    sqlite3_finalize(stmt);
+    benchmark::DoNotOptimize(cells.size());
+    return rows;
+}
+
+int readAllLibpq(pg_conn* connection, const char* sql)
+{
+    PGresult* result = PQexec(connection, sql);
+    const int rows = PQntuples(result), columns = PQnfields(result);
+    QList<QString> cells;
+    cells.reserve(qsizetype(rows) * columns);
+    for (int r = 0; r < rows; ++r)
+        for (int c = 0; c < columns; ++c)
+            cells.append(QString::fromUtf8(PQgetvalue(result, r, c), PQgetlength(result, r, c)));
+    PQclear(result);
+    benchmark::DoNotOptimize(cells.size());
+    return rows;
 }
 
 } // namespace qd8::bench

@@ -5,7 +5,15 @@
 #include <functional>
 #include <memory>
 
+struct sqlite3;
+struct pg_conn;
+
 namespace qd8::bench {
+
+// The floors' reading: every row and column of a SELECT as QStrings, through the engine's
+// own C API. Returns the number of rows.
+int readAllSqlite(sqlite3* handle, const char* sql);
+int readAllLibpq(pg_conn* connection, const char* sql);
 
 // A benchmark database that lives for the run: a SQLite file in a temporary folder, or a
 // scratch PostgreSQL database on the server of the PG* variables (skipped without one).

@@ -97,24 +97,12 @@ QByteArray floorName(int row, int round)
     return QStringLiteral("พื้น %1 รอบ %2").arg(row).arg(round).toUtf8();
 }
 
-void readAllSqlite(sqlite3* handle)
-{
-    sqlite3_stmt* stmt = nullptr;
-    sqlite3_prepare_v2(handle, Select, -1, &stmt, nullptr);
-    QList<QString> cells;
-    while (sqlite3_step(stmt) == SQLITE_ROW)
-        for (int c = 0; c < sqlite3_column_count(stmt); ++c)
-            cells.append(QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, c)), sqlite3_column_bytes(stmt, c)));
-    sqlite3_finalize(stmt);
-    benchmark::DoNotOptimize(cells.size());
-}
-
 void rawSqliteLoad(benchmark::State& state, const BenchDatabase* db)
 {
     sqlite3* handle = nullptr;
     sqlite3_open_v2(db->name().toUtf8().constData(), &handle, SQLITE_OPEN_READONLY, nullptr);
     for (auto _ : state)
-        readAllSqlite(handle);
+        readAllSqlite(handle, Select);
     sqlite3_close(handle);
 }
 
@@ -146,28 +134,17 @@ void rawSqliteSave(benchmark::State& state, const BenchDatabase* db)
             sqlite3_reset(update);
         }
         sqlite3_exec(handle, "COMMIT", nullptr, nullptr, nullptr);
-        readAllSqlite(handle);
+        readAllSqlite(handle, Select);
     }
     sqlite3_finalize(update);
     sqlite3_close(handle);
-}
-
-void readAllLibpq(PGconn* conn)
-{
-    PGresult* result = PQexec(conn, Select);
-    QList<QString> cells;
-    for (int r = 0; r < PQntuples(result); ++r)
-        for (int c = 0; c < PQnfields(result); ++c)
-            cells.append(QString::fromUtf8(PQgetvalue(result, r, c), PQgetlength(result, r, c)));
-    PQclear(result);
-    benchmark::DoNotOptimize(cells.size());
 }
 
 void rawLibpqLoad(benchmark::State& state, const BenchDatabase* db)
 {
     PGconn* conn = PQconnectdb(("dbname=" + db->name()).toUtf8().constData());
     for (auto _ : state)
-        readAllLibpq(conn);
+        readAllLibpq(conn, Select);
     PQfinish(conn);
 }
 
@@ -192,7 +169,7 @@ void rawLibpqSave(benchmark::State& state, const BenchDatabase* db)
             PQclear(result);
         }
         PQclear(PQexec(conn, "COMMIT"));
-        readAllLibpq(conn);
+        readAllLibpq(conn, Select);
     }
     PQfinish(conn);
 }

@@ -70,35 +70,16 @@ void rawSqlite(benchmark::State& state, const BenchDatabase* db)
 {
     sqlite3* handle = nullptr;
     sqlite3_open_v2(db->name().toUtf8().constData(), &handle, SQLITE_OPEN_READONLY, nullptr);
-    for (auto _ : state) {
-        sqlite3_stmt* stmt = nullptr;
-        sqlite3_prepare_v2(handle, Select, -1, &stmt, nullptr);
-        const int columns = sqlite3_column_count(stmt);
-        QList<QString> cells;
-        cells.reserve(Rows * columns);
-        while (sqlite3_step(stmt) == SQLITE_ROW)
-            for (int c = 0; c < columns; ++c)
-                cells.append(QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, c)), sqlite3_column_bytes(stmt, c)));
-        sqlite3_finalize(stmt);
-        benchmark::DoNotOptimize(cells.size());
-    }
+    for (auto _ : state)
+        readAllSqlite(handle, Select);
     sqlite3_close(handle);
 }
 
 void rawLibpq(benchmark::State& state, const BenchDatabase* db)
 {
     PGconn* conn = PQconnectdb(("dbname=" + db->name()).toUtf8().constData());
-    for (auto _ : state) {
-        PGresult* result = PQexec(conn, Select);
-        const int rows = PQntuples(result), columns = PQnfields(result);
-        QList<QString> cells;
-        cells.reserve(rows * columns);
-        for (int r = 0; r < rows; ++r)
-            for (int c = 0; c < columns; ++c)
-                cells.append(QString::fromUtf8(PQgetvalue(result, r, c), PQgetlength(result, r, c)));
-        PQclear(result);
-        benchmark::DoNotOptimize(cells.size());
-    }
+    for (auto _ : state)
+        readAllLibpq(conn, Select);
     PQfinish(conn);
 }
 
