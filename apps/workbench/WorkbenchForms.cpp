@@ -1,6 +1,7 @@
 #include "WorkbenchForms.h"
 
 #include "TableListForm.h"
+#include "editors/QuickGrid.h"
 #include "widgets/FormRegistry.h"
 
 namespace qd8 {
@@ -16,6 +17,9 @@ void registerList(const QString& name, const TableListDefinition& definition)
 
 void registerWorkbenchForms()
 {
+    // The quick form editor: for a command named after a quick form, and for the commands
+    // that open a module's master data.
+    FormRegistry::registerForm(QStringLiteral("QUICKFORM"), [](QWidget* parent) { return new QuickGrid(parent); });
     // The report search of the tool bar: every report of the catalogue; Enter runs one.
     registerList(QStringLiteral("WINDOW:REPORTSEARCH"),
         {QStringLiteral("ค้นหารายงาน"), QStringLiteral("Report Search"), true,

@@ -258,6 +258,19 @@ bool WorkbenchWindow::findCommand(const QString& alias, Command* command) const
     return true;
 }
 
+bool WorkbenchWindow::isQuickForm(const QString& alias) const
+{
+    try {
+        Connection c;
+        c.open(m_session.appConnectionString);
+        Recordset rs;
+        rs.open(Sql("SELECT TQFmAlias FROM QD8TQuickForm WHERE TQFmFlag1=1 AND TQFmAlias=") + quoted(alias), c);
+        return !rs.eof();
+    } catch (const DbError&) {
+        return false;
+    }
+}
+
 QString WorkbenchWindow::tabCommand(int index) const
 {
     QWidget* form = m_tabs->widget(index);
@@ -286,7 +299,11 @@ void WorkbenchWindow::launch(const QString& shellFunction)
         }
     }
     const QString typeForm = QStringLiteral("TYPE:") + command.type;
-    const QString form = FormRegistry::contains(command.alias) ? command.alias : FormRegistry::contains(typeForm) ? typeForm : QString();
+    QString form = FormRegistry::contains(command.alias) ? command.alias : FormRegistry::contains(typeForm) ? typeForm : QString();
+    if (form.isEmpty() && FormRegistry::contains(QStringLiteral("QUICKFORM")) && isQuickForm(command.alias)) {
+        form = QStringLiteral("QUICKFORM");
+        command.quickForm = command.alias;
+    }
     if (form.isEmpty()) {
         showStatus(text("ยังไม่มีฟอร์มสำหรับคำสั่ง %1 (%2) ในรุ่นนี้", "This build has no form for the command %1 (%2) yet")
                        .arg(command.alias, command.caption));
@@ -301,6 +318,8 @@ void WorkbenchWindow::openForm(const QString& formName, const Command& command)
     if (!form)
         return;
     form->setProperty(CommandProperty, command.alias);
+    if (!command.quickForm.isEmpty())
+        form->setProperty("DefaultFormAlias", command.quickForm);
     try {
         if (auto* control = qobject_cast<HostedControl*>(form))
             setUpControl(*control, command.alias, command.group);

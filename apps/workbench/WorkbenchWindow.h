@@ -77,12 +77,14 @@ private:
         QString caption;
         QString type;
         QString group;
+        QString quickForm;  // the quick form the command is named after
     };
     void buildStatusBar();
     void fillModules(const QString& module);
     void setUpControl(HostedControl& control, const QString& commandAlias, const QString& commandGroup);
     void refreshLaunchers();
     bool findCommand(const QString& alias, Command* command) const;
+    bool isQuickForm(const QString& alias) const;
     void openForm(const QString& formName, const Command& command);
     void connectEvents(QObject* form);
     void showStatus(const QString& message);

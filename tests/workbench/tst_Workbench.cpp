@@ -7,10 +7,12 @@
 #include "WorkbenchSession.h"
 #include "WorkbenchWindow.h"
 #include "database/SessionFunctions.h"
+#include "editors/QuickGrid.h"
 #include "navigation/DocumentToolBar.h"
 #include "navigation/NUVRibbon.h"
 #include "navigation/ShortCutBar.h"
 #include "widgets/FormRegistry.h"
+#include "widgets/GridEditor.h"
 #include "widgets/Ribbon.h"
 
 #include <QApplication>
@@ -215,6 +217,22 @@ TEST_P(WorkbenchTest, PrintingAListPreviewsItsRowsAndExportsPdf)
     ASSERT_TRUE(preview);
     EXPECT_GE(preview->pageCount(), 1);
     preview->window()->close();
+}
+
+TEST_P(WorkbenchTest, ACommandNamedAfterAQuickFormOpensTheQuickFormEditor)
+{
+    runOnApp({"INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType) "
+              "VALUES (9901, 'EMPTYPE', 'ประเภทพนักงาน', 'Employee Types', 'HR', 'F')"});
+    auto window = open("SOMCHAI", "HR");
+    window->launch("EMPTYPE");
+    ASSERT_EQ(window->tabs()->count(), 1);
+    auto* editor = qobject_cast<QuickGrid*>(window->tabs()->widget(0));
+    ASSERT_TRUE(editor);
+    EXPECT_EQ(editor->ConnectionString(), appConnectionString());  // editors read metadata from the application database
+    EXPECT_EQ(editor->DataConnectionString(), dataConnectionString());
+    EXPECT_EQ(editor->RUNMODE(), "VIEW");
+    EXPECT_EQ(editor->grid()->Rows(), 4);
+    EXPECT_EQ(editor->grid()->TextMatrix(0, editor->grid()->Cols()), "แสดง");
 }
 
 QD8_ON_BOTH_ENGINES(WorkbenchTest);
