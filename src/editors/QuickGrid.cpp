@@ -322,7 +322,8 @@ void QuickGrid::buttonClick(const QString& key)
     } else if (key == QLatin1String("Add")) {
         if (m_runMode == QLatin1String("VIEW"))
             enterMode(QStringLiteral("ADD"));
-        m_grid->AddRow();
+        if (const int row = m_grid->AddRow(); row > 0)
+            fillNewRow(row);  // Insert in the grid does the same through AfterAddRow
     } else if (key == QLatin1String("Delete")) {
         if (m_grid->Row() > 0)
             m_grid->DeleteRow(m_grid->Row());

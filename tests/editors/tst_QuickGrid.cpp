@@ -160,6 +160,7 @@ TEST_P(QuickGridTest, NothingIsWrittenWhenTheUserSaysNoOrABlankIsLeft)
     grid.cmdWhereShow("QDIV");
     grid.button("Add")->trigger();
     GridEditor* g = grid.grid();
+    EXPECT_EQ(g->GetValue(4, 5).toInt(), 1);  // a new row is shown (in use) unless changed
     g->SetValue(4, 1, "D05");  // no name
     scriptedMessages().answers = {false, true};
     EXPECT_FALSE(grid.save());
