@@ -57,6 +57,10 @@ INNER JOIN QD8TCommandGroup g ON c.TCmdTCmGAlias = g.TCmGAlias;
 
 -- Quick forms: one row per simple master table editable without a form of its
 -- own. TQFmTCmGAlias is the module whose quick-form group offers the form.
+-- A form left at its defaults may add and delete rows and is not read-only.
+-- TQFmPrintTCmdAlias names the catalogue command that prints the form; left
+-- empty, TQFMMasterReportNo 1 or 2 prints the form's first two or three
+-- columns as a plain code list, 0 offers no printing.
 CREATE TABLE QD8TQuickForm (
     TQFmAlias VARCHAR(50) NOT NULL,
     TQFmCaption VARCHAR(200) COLLATE THAI,
@@ -89,6 +93,12 @@ CREATE INDEX QD8XQuickFormGroup ON QD8TQuickForm (TQFmTCmGAlias);
 -- Columns of a quick form (TQFFTQFmAlias) or of a custom code list
 -- (TQFFTCusCode), in TQFFSort order. TQFFID is the row's own key because a
 -- row belongs either to a quick form or to a code list.
+-- TQFFFieldType: TEXT, NUMBER, LABELLIST, YESNO or AUTONUMBER (a key the
+-- database assigns, never written by the editor). A row that leaves a flag
+-- out gets what a user expects of a plain column: it may be left blank,
+-- changed after saving and hold the same value as another row (a key is kept
+-- unique by the table itself). TQFFTitleAlign/TQFFRowAlign: 0 left, 1 right,
+-- 2 centre, Null the type's own (numbers right, text left).
 CREATE TABLE QD8TQuickField (
     TQFFID INTEGER NOT NULL,
     TQFFTQFmAlias VARCHAR(50),
@@ -110,8 +120,8 @@ CREATE TABLE QD8TQuickField (
     TQFFCanEdit INTEGER DEFAULT 1,
     TQFFCanDeleteAlias VARCHAR(50),
     TQFFWidth INTEGER DEFAULT 1000,
-    TQFFTitleAlign INTEGER DEFAULT 0,
-    TQFFRowAlign INTEGER DEFAULT 0,
+    TQFFTitleAlign INTEGER,
+    TQFFRowAlign INTEGER,
     TQFFLabelList VARCHAR(2000),
     TQFFDefaultValue VARCHAR(200),
     TQFFDefaultText VARCHAR(200),

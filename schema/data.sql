@@ -533,6 +533,20 @@ CREATE TABLE QD8TProductGroup (
     PRIMARY KEY (TPG1Code)
 );
 
+-- Units of measure. TUntID is assigned by the database: the column is written
+-- as SQLite declares an autonumber key, and Schema turns that declaration into
+-- an identity column on PostgreSQL. Rows are inserted without TUntID.
+-- Products and documents store the unit's code (TUntCode, unique).
+CREATE TABLE QD8TUnit (
+    TUntID INTEGER PRIMARY KEY AUTOINCREMENT,
+    TUntCode VARCHAR(20) NOT NULL,
+    TUntName VARCHAR(200) COLLATE THAI,
+    TUntName2 VARCHAR(200) COLLATE THAI,
+    TUntSort INTEGER DEFAULT 0,
+    TUntFlag1 INTEGER DEFAULT 1
+);
+CREATE UNIQUE INDEX QD8XUnitCode ON QD8TUnit (TUntCode);
+
 -- TPdtTPTTCode is the product type ('PROGRAM' for the program filter).
 CREATE TABLE QD8TProduct (
     TPdtCode VARCHAR(30) NOT NULL,

@@ -333,3 +333,60 @@ INSERT INTO QD8TUserSetting (TUsSTUsrID, TUsSAlias, TUsSValue) VALUES (1, 'Appro
 -- Company option values and the voucher numbers already taken this month.
 INSERT INTO QD8TOptionValue (TOpVScope, TOpVScopeKey, TOpVTOptAlias, TOpVValue, TOpVNumber, TOpVEditBy, TOpVEditDate) VALUES ('COMPANY', '', 'ARCREDITBALANCEIGNORECHEQUE', '0', 0, 'ADMIN', '2026-01-02 09:00:00');
 INSERT INTO QD8TRunningNumber (TRunKey, TRunSubKey, TRunLastNo, TRunEditDate) VALUES ('DAILYRECORDCALL', 'JV2611', 12, '2026-11-20 17:10:00');
+
+-- Rights on the quick-form commands: everybody may maintain the master tables.
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'DIVISION', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'DEPARTMENT', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'SECTION', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'EMPTYPE', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'BRANCH', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'PROJECT', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'PRODUCTLINE', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'PRODUCTSECTION', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'PRODUCTGROUP1', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (1, 'DIVISION', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (1, 'DEPARTMENT', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (1, 'SECTION', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (1, 'EMPTYPE', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (1, 'BRANCH', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (1, 'PROJECT', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (1, 'PRODUCTLINE', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (1, 'PRODUCTSECTION', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (1, 'PRODUCTGROUP1', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (2, 'DIVISION', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (2, 'DEPARTMENT', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (2, 'SECTION', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (2, 'EMPTYPE', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (2, 'BRANCH', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (2, 'PROJECT', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (2, 'PRODUCTLINE', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (2, 'PRODUCTSECTION', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (2, 'PRODUCTGROUP1', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TModuleCommand (TMdCTCmGAlias, TMdCTCmdID, TMdCSort) VALUES ('HR', 710, 20);
+INSERT INTO QD8TModuleCommand (TMdCTCmGAlias, TMdCTCmdID, TMdCSort) VALUES ('HR', 711, 21);
+INSERT INTO QD8TModuleCommand (TMdCTCmGAlias, TMdCTCmdID, TMdCSort) VALUES ('IC', 311, 20);
+INSERT INTO QD8TUserCommand (TUsCTUsrID, TUsCTCmdID, TUsCSort) VALUES (1, 710, 20);
+INSERT INTO QD8TUserCommand (TUsCTUsrID, TUsCTCmdID, TUsCSort) VALUES (2, 311, 20);
+
+-- Master rows of the quick forms; a few not in use (Flag1 0).
+INSERT INTO QD8TDivision (TDivCode, TDivName, TDivName2, TDivSort, TDivFlag1) VALUES ('D01', 'บัญชีและการเงิน', 'Accounting & Finance', 1, 1);
+INSERT INTO QD8TDivision (TDivCode, TDivName, TDivName2, TDivSort, TDivFlag1) VALUES ('D02', 'ขายและการตลาด', 'Sales & Marketing', 2, 1);
+INSERT INTO QD8TDivision (TDivCode, TDivName, TDivName2, TDivSort, TDivFlag1) VALUES ('D03', 'ปฏิบัติการ', 'Operations', 3, 1);
+INSERT INTO QD8TDivision (TDivCode, TDivName, TDivName2, TDivSort, TDivFlag1) VALUES ('D09', 'ฝ่ายเดิม (เลิกใช้)', 'Former Division', 9, 0);
+INSERT INTO QD8TDepartment (TDepCode, TDepName, TDepName2, TDepTDivCode, TDepSort, TDepFlag1) VALUES ('P11', 'บัญชีทั่วไป', 'General Accounting', 'D01', 1, 1);
+INSERT INTO QD8TDepartment (TDepCode, TDepName, TDepName2, TDepTDivCode, TDepSort, TDepFlag1) VALUES ('P12', 'การเงิน', 'Treasury', 'D01', 2, 1);
+INSERT INTO QD8TDepartment (TDepCode, TDepName, TDepName2, TDepTDivCode, TDepSort, TDepFlag1) VALUES ('P21', 'ขายในประเทศ', 'Domestic Sales', 'D02', 3, 1);
+INSERT INTO QD8TDepartment (TDepCode, TDepName, TDepName2, TDepTDivCode, TDepSort, TDepFlag1) VALUES ('P31', 'คลังสินค้า', 'Warehouse', 'D03', 4, 1);
+INSERT INTO QD8TSection (TSecCode, TSecName, TSecName2, TSecTDepCode, TSecSort, TSecFlag1) VALUES ('S111', 'เจ้าหนี้', 'Payables', 'P11', 1, 1);
+INSERT INTO QD8TSection (TSecCode, TSecName, TSecName2, TSecTDepCode, TSecSort, TSecFlag1) VALUES ('S112', 'ลูกหนี้', 'Receivables', 'P11', 2, 1);
+INSERT INTO QD8TSection (TSecCode, TSecName, TSecName2, TSecTDepCode, TSecSort, TSecFlag1) VALUES ('S311', 'รับสินค้า', 'Receiving', 'P31', 1, 1);
+INSERT INTO QD8TProject (TPrjCode, TPrjName, TPrjName2, TPrjLevel, TPrjFlag1) VALUES ('PJ01', 'ขยายสาขาเชียงใหม่', 'Chiang Mai Expansion', 1, 1);
+INSERT INTO QD8TProject (TPrjCode, TPrjName, TPrjName2, TPrjLevel, TPrjFlag1) VALUES ('PJ02', 'ระบบบัญชีใหม่', 'New Accounting System', 2, 1);
+INSERT INTO QD8TProductLine (TPDLCode, TPDLName, TPDLName2, TPDLSectionName1, TPDLGroupName1, TPDLSort, TPDLFlag1) VALUES ('L1', 'เครื่องใช้ไฟฟ้า', 'Appliances', 'หมวดเครื่องใช้', 'กลุ่มเครื่องใช้', 1, 1);
+INSERT INTO QD8TProductLine (TPDLCode, TPDLName, TPDLName2, TPDLSectionName1, TPDLGroupName1, TPDLSort, TPDLFlag1) VALUES ('L2', 'วัสดุก่อสร้าง', 'Building Materials', 'หมวดวัสดุ', 'กลุ่มวัสดุ', 2, 1);
+INSERT INTO QD8TProductSection (TPSECode, TPSEName, TPSEName2, TPSETPDLCode, TPSESort, TPSEFlag1) VALUES ('E10', 'เครื่องใช้ในครัว', 'Kitchen', 'L1', 1, 1);
+INSERT INTO QD8TProductSection (TPSECode, TPSEName, TPSEName2, TPSETPDLCode, TPSESort, TPSEFlag1) VALUES ('E20', 'เครื่องปรับอากาศ', 'Air Conditioning', 'L1', 2, 1);
+INSERT INTO QD8TProductSection (TPSECode, TPSEName, TPSEName2, TPSETPDLCode, TPSESort, TPSEFlag1) VALUES ('B10', 'ปูนซีเมนต์', 'Cement', 'L2', 3, 1);
+INSERT INTO QD8TProductGroup (TPG1Code, TPG1Name, TPG1Name2, TPG1TPSECode, TPG1Sort, TPG1Flag1) VALUES ('G101', 'หม้อหุงข้าว', 'Rice Cookers', 'E10', 1, 1);
+INSERT INTO QD8TProductGroup (TPG1Code, TPG1Name, TPG1Name2, TPG1TPSECode, TPG1Sort, TPG1Flag1) VALUES ('G102', 'ไมโครเวฟ', 'Microwaves', 'E10', 2, 1);
+INSERT INTO QD8TProductGroup (TPG1Code, TPG1Name, TPG1Name2, TPG1TPSECode, TPG1Sort, TPG1Flag1) VALUES ('G201', 'แอร์ติดผนัง', 'Wall Air Conditioners', 'E20', 1, 1);

@@ -264,14 +264,18 @@ void QuickGrid::loadRows(Connection& data)
     Recordset rs;
     rs.open(Sql(loadStatement()), data);
     QList<int> columns;
-    for (const QuickFieldDefinition& f : m_form.fields)
+    for (const QuickFieldDefinition& f : m_form.fields) {
         columns << rs.fieldIndex(f.fieldName);
+        if (columns.last() < 0)
+            throw DbError(DbError::Kind::Usage,
+                QStringLiteral("The field %1 of quick form %2 is not a column of %3").arg(f.fieldName, m_form.alias, m_form.view));
+    }
     m_loaded.reserve(rs.recordCount());
     for (; !rs.eof(); rs.moveNext()) {
         QVariantList values;
         values.reserve(columns.size());
         for (int index : columns)
-            values << (index < 0 ? QVariant() : rs.field(index));
+            values << rs.field(index);
         m_loaded << values;
     }
     m_grid->AddItems(m_loaded);

@@ -108,6 +108,13 @@ TEST_P(QuickGridTest, LoadingReadsTheActiveFormItsActiveFieldsAndTheRows)
     departments.cmdWhereShow2("QDEP", true);
     EXPECT_EQ(departments.grid()->TextMatrix(0, 3), "ฝ่าย (F2)");  // a column with a pick list says so
     EXPECT_TRUE(departments.selectorLocked());
+
+    // Metadata naming a column the table does not have is reported, not shown half-empty.
+    runOnApp({"UPDATE QD8TQuickField SET TQFFFieldName='TDivNmae' WHERE TQFFID=9002"});
+    grid.cmdWhereShow("QDIV");
+    EXPECT_EQ(grid.RUNMODE(), "BLANK");
+    ASSERT_EQ(scriptedMessages().shown.size(), 1);
+    EXPECT_TRUE(scriptedMessages().shown[0].text.contains("TDivNmae"));
 }
 
 TEST_P(QuickGridTest, TheToolBarFollowsTheMode)
@@ -257,6 +264,37 @@ TEST_P(QuickGridTest, CellChecksRefuseDuplicatesBoundsAndLength)
         EXPECT_EQ(grid.grid()->GetValue(1, c.col) == before, c.refused) << c.col << " " << c.value.toString().toStdString();
         grid.grid()->SetValue(1, c.col, before);
     }
+}
+
+TEST_P(QuickGridTest, EverySampleQuickFormLoadsAndItsPickListRuns)
+{
+    Connection app;
+    app.open(appConnectionString());
+    Recordset forms;
+    forms.open("SELECT TQFmAlias FROM QD8TQuickForm WHERE TQFmFlag1=1 AND TQFmAlias NOT IN ('QDIV','QDEP') ORDER BY TQFmAlias", app);
+    QStringList aliases;
+    for (; !forms.eof(); forms.moveNext())
+        aliases << forms.text("TQFmAlias");
+    ASSERT_GE(aliases.size(), 9);
+    Connection data;
+    data.open(dataConnectionString());
+    for (const QString& alias : aliases) {
+        SCOPED_TRACE(alias.toStdString());
+        grid.cmdWhereShow(alias);
+        EXPECT_EQ(grid.RUNMODE(), "VIEW");
+        EXPECT_EQ(grid.form().fields.size(), grid.grid()->Cols());
+        // The pick list's statement, as the pick list would run it.
+        scriptedPicker().requests.clear();
+        grid.SelectQuickForm(alias);
+        ASSERT_EQ(scriptedPicker().requests.size(), 1);
+        const PickRequest& request = scriptedPicker().requests.first();
+        Recordset rows;
+        EXPECT_NO_THROW(rows.open(Sql("SELECT ") + request.fieldList + " FROM " + request.source, data));
+        for (const QuickFieldDefinition& field : grid.form().fields)
+            if (!field.runQuickForm.isEmpty())
+                EXPECT_TRUE(aliases.contains(field.runQuickForm) || field.runQuickForm == "QDIV") << field.runQuickForm.toStdString();
+    }
+    EXPECT_TRUE(scriptedMessages().shown.isEmpty());
 }
 
 QD8_ON_BOTH_ENGINES(QuickGridTest);

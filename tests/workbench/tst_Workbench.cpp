@@ -221,8 +221,6 @@ TEST_P(WorkbenchTest, PrintingAListPreviewsItsRowsAndExportsPdf)
 
 TEST_P(WorkbenchTest, ACommandNamedAfterAQuickFormOpensTheQuickFormEditor)
 {
-    runOnApp({"INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, TCmdType) "
-              "VALUES (9901, 'EMPTYPE', 'ประเภทพนักงาน', 'Employee Types', 'HR', 'F')"});
     auto window = open("SOMCHAI", "HR");
     window->launch("EMPTYPE");
     ASSERT_EQ(window->tabs()->count(), 1);
