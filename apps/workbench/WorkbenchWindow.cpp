@@ -318,6 +318,7 @@ void WorkbenchWindow::openForm(const QString& formName, const Command& command)
     if (!form)
         return;
     form->setProperty(CommandProperty, command.alias);
+    form->setAutoFillBackground(true);  // forms keep their own background under a dark theme
     if (!command.quickForm.isEmpty())
         form->setProperty("DefaultFormAlias", command.quickForm);
     try {
@@ -467,7 +468,20 @@ QStringList WorkbenchWindow::saveScreenshots(const QString& folder)
     QDir().mkpath(folder);
     QStringList files;
     files << savePicture(QDir(folder).filePath(QStringLiteral("main.png")));
-    for (const QString& name : FormRegistry::names()) {
+    // Every registered form, and every command that opens a quick form.
+    QStringList names = FormRegistry::names();
+    try {
+        Connection c;
+        c.open(m_session.appConnectionString);
+        Recordset rs;
+        rs.open(Sql("SELECT TCmdAlias FROM QD8TCommand WHERE TCmdFlag1=1 ORDER BY TCmdID"), c);
+        for (; !rs.eof(); rs.moveNext())
+            if (isQuickForm(rs.text(QStringLiteral("TCmdAlias"))))
+                names << rs.text(QStringLiteral("TCmdAlias"));
+    } catch (const DbError& error) {
+        showStatus(error.message());
+    }
+    for (const QString& name : names) {
         launch(name);
         const int index = m_tabs->currentIndex();
         if (index < 0 || tabCommand(index) != name)
