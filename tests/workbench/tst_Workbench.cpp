@@ -8,6 +8,8 @@
 #include "WorkbenchWindow.h"
 #include "database/SessionFunctions.h"
 #include "editors/QuickGrid.h"
+#include "foundation/Connection.h"
+#include "foundation/Recordset.h"
 #include "navigation/DocumentToolBar.h"
 #include "navigation/NUVRibbon.h"
 #include "navigation/ShortCutBar.h"
@@ -231,6 +233,28 @@ TEST_P(WorkbenchTest, ACommandNamedAfterAQuickFormOpensTheQuickFormEditor)
     EXPECT_EQ(editor->RUNMODE(), "VIEW");
     EXPECT_EQ(editor->grid()->Rows(), 4);
     EXPECT_EQ(editor->grid()->TextMatrix(0, editor->grid()->Cols()), "แสดง");
+}
+
+TEST_P(WorkbenchTest, AClerkMaintainsAMasterTableFromTheRibbon)
+{
+    auto window = open("JOHN", "HR");
+    QToolButton* divisions = window->ribbon()->ribbon()->button("DIVISION");
+    ASSERT_TRUE(divisions);
+    divisions->click();
+    auto* editor = qobject_cast<QuickGrid*>(window->tabs()->currentWidget());
+    ASSERT_TRUE(editor);
+    EXPECT_EQ(window->tabs()->tabText(window->tabs()->currentIndex()), "Divisions");
+    editor->buttonClick("Edit");
+    editor->grid()->SetValue(1, 3, "Accounting and Finance");
+    scriptedMessages().answers = {true};
+    editor->buttonClick("Update");
+    EXPECT_EQ(editor->RUNMODE(), "VIEW");
+    Connection c;
+    c.open(dataConnectionString());
+    Recordset rs;
+    rs.open("SELECT TDivName2 FROM QD8TDivision WHERE TDivCode='D01'", c);
+    EXPECT_EQ(rs.text("TDivName2"), "Accounting and Finance");
+    EXPECT_EQ(scriptedMessages().shown.last().text, "บันทึกข้อมูล  1 รายการ   ลบข้อมูล 0 รายการ เรียบร้อย");
 }
 
 QD8_ON_BOTH_ENGINES(WorkbenchTest);
