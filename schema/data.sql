@@ -537,11 +537,16 @@ CREATE TABLE QD8TProductGroup (
 -- as SQLite declares an autonumber key, and Schema turns that declaration into
 -- an identity column on PostgreSQL. Rows are inserted without TUntID.
 -- Products and documents store the unit's code (TUntCode, unique).
+-- TUntRatio is how many base units (pieces, kilograms, litres) one of this
+-- unit holds (12 for a dozen), TUntFraction 1 lets quantities in the unit
+-- have decimals.
 CREATE TABLE QD8TUnit (
     TUntID INTEGER PRIMARY KEY AUTOINCREMENT,
     TUntCode VARCHAR(20) NOT NULL,
     TUntName VARCHAR(200) COLLATE THAI,
     TUntName2 VARCHAR(200) COLLATE THAI,
+    TUntRatio DOUBLE PRECISION DEFAULT 1,
+    TUntFraction INTEGER DEFAULT 0,
     TUntSort INTEGER DEFAULT 0,
     TUntFlag1 INTEGER DEFAULT 1
 );

@@ -19,7 +19,11 @@ void registerWorkbenchForms()
 {
     // The quick form editor: for a command named after a quick form, and for the commands
     // that open a module's master data.
-    FormRegistry::registerForm(QStringLiteral("QUICKFORM"), [](QWidget* parent) { return new QuickGrid(parent); });
+    const auto quickGrid = [](QWidget* parent) { return new QuickGrid(parent); };
+    FormRegistry::registerForm(QStringLiteral("QUICKFORM"), quickGrid);
+    // The master data of a module: every quick form of the command's module.
+    for (const char* alias : {"GLQUICK", "ICQUICK", "HRQUICK"})
+        FormRegistry::registerForm(QString::fromLatin1(alias), quickGrid);
     // The report search of the tool bar: every report of the catalogue; Enter runs one.
     registerList(QStringLiteral("WINDOW:REPORTSEARCH"),
         {QStringLiteral("ค้นหารายงาน"), QStringLiteral("Report Search"), true,

@@ -390,3 +390,47 @@ INSERT INTO QD8TProductSection (TPSECode, TPSEName, TPSEName2, TPSETPDLCode, TPS
 INSERT INTO QD8TProductGroup (TPG1Code, TPG1Name, TPG1Name2, TPG1TPSECode, TPG1Sort, TPG1Flag1) VALUES ('G101', 'หม้อหุงข้าว', 'Rice Cookers', 'E10', 1, 1);
 INSERT INTO QD8TProductGroup (TPG1Code, TPG1Name, TPG1Name2, TPG1TPSECode, TPG1Sort, TPG1Flag1) VALUES ('G102', 'ไมโครเวฟ', 'Microwaves', 'E10', 2, 1);
 INSERT INTO QD8TProductGroup (TPG1Code, TPG1Name, TPG1Name2, TPG1TPSECode, TPG1Sort, TPG1Flag1) VALUES ('G201', 'แอร์ติดผนัง', 'Wall Air Conditioners', 'E20', 1, 1);
+
+-- Rights on the journal books, the units, the quick-form group of each module and the
+-- organisation report. John has no HR reports, so he has no row for the report and
+-- cannot launch it when he prints the departments.
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'JOURNALBOOK', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'GLQUICK', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'UNIT', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'ICQUICK', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'HRQUICK', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'HRORGANIZATION', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (1, 'JOURNALBOOK', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (1, 'GLQUICK', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (1, 'UNIT', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (1, 'ICQUICK', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (1, 'HRQUICK', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (1, 'HRORGANIZATION', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (2, 'JOURNALBOOK', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (2, 'GLQUICK', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (2, 'UNIT', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (2, 'ICQUICK', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (2, 'HRQUICK', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
+-- The group commands are among the commands each module shows.
+INSERT INTO QD8TModuleCommand (TMdCTCmGAlias, TMdCTCmdID, TMdCSort) VALUES ('GL', 112, 30);
+INSERT INTO QD8TModuleCommand (TMdCTCmGAlias, TMdCTCmdID, TMdCSort) VALUES ('IC', 314, 30);
+INSERT INTO QD8TModuleCommand (TMdCTCmGAlias, TMdCTCmdID, TMdCSort) VALUES ('HR', 715, 30);
+
+-- Units of measure, inserted without TUntID: the database numbers them (on
+-- PostgreSQL an explicit key would not move the identity on and the next
+-- unit added in the editor would collide with it).
+INSERT INTO QD8TUnit (TUntCode, TUntName, TUntName2, TUntRatio, TUntFraction, TUntSort, TUntFlag1) VALUES ('PCS', 'ชิ้น', 'Piece', 1, 0, 1, 1);
+INSERT INTO QD8TUnit (TUntCode, TUntName, TUntName2, TUntRatio, TUntFraction, TUntSort, TUntFlag1) VALUES ('DOZ', 'โหล', 'Dozen', 12, 0, 2, 1);
+INSERT INTO QD8TUnit (TUntCode, TUntName, TUntName2, TUntRatio, TUntFraction, TUntSort, TUntFlag1) VALUES ('BOX', 'กล่อง', 'Box', 24, 0, 3, 1);
+INSERT INTO QD8TUnit (TUntCode, TUntName, TUntName2, TUntRatio, TUntFraction, TUntSort, TUntFlag1) VALUES ('KG', 'กิโลกรัม', 'Kilogram', 1, 1, 4, 1);
+INSERT INTO QD8TUnit (TUntCode, TUntName, TUntName2, TUntRatio, TUntFraction, TUntSort, TUntFlag1) VALUES ('G', 'กรัม', 'Gram', 0.001, 1, 5, 1);
+INSERT INTO QD8TUnit (TUntCode, TUntName, TUntName2, TUntRatio, TUntFraction, TUntSort, TUntFlag1) VALUES ('L', 'ลิตร', 'Litre', 1, 1, 6, 1);
+INSERT INTO QD8TUnit (TUntCode, TUntName, TUntName2, TUntRatio, TUntFraction, TUntSort, TUntFlag1) VALUES ('REAM', 'รีม', 'Ream', 500, 0, 7, 0);
+
+-- Journal books: general, receipts, payments and sales, and the purchase book no
+-- longer in use.
+INSERT INTO QD8TGLBook (TGLBCode, TGLBName, TGLBName2, TGLBSort, TGLBFlag1) VALUES ('JV', 'สมุดรายวันทั่วไป', 'General Journal', 1, 1);
+INSERT INTO QD8TGLBook (TGLBCode, TGLBName, TGLBName2, TGLBSort, TGLBFlag1) VALUES ('RV', 'สมุดรายวันรับเงิน', 'Cash Receipts Journal', 2, 1);
+INSERT INTO QD8TGLBook (TGLBCode, TGLBName, TGLBName2, TGLBSort, TGLBFlag1) VALUES ('PV', 'สมุดรายวันจ่ายเงิน', 'Cash Payments Journal', 3, 1);
+INSERT INTO QD8TGLBook (TGLBCode, TGLBName, TGLBName2, TGLBSort, TGLBFlag1) VALUES ('SV', 'สมุดรายวันขาย', 'Sales Journal', 4, 1);
+INSERT INTO QD8TGLBook (TGLBCode, TGLBName, TGLBName2, TGLBSort, TGLBFlag1) VALUES ('PU', 'สมุดรายวันซื้อ', 'Purchases Journal', 5, 0);

@@ -4,11 +4,14 @@
 #include "database/Schema.h"
 #include "foundation/Connection.h"
 #include "foundation/ConnectionPool.h"
+#include "foundation/DbError.h"
 #include "foundation/Recordset.h"
+#include "foundation/Values.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QProcess>
+#include <QSet>
 
 using namespace qd8;
 using namespace qd8::test;
@@ -24,7 +27,7 @@ const char* const SuiteObjects[] = {
     "QD8TInventory", "QD8TJob", "QD8TJobMethod", "QD8TJobProdMat", "QD8TModuleCommand", "QD8TMRPFormulaGrp",
     "QD8TMRPStepName", "QD8TOption", "QD8TOptionGroup", "QD8TPointTrans", "QD8TProduct", "QD8TProductGroup",
     "QD8TProductLine", "QD8TProductMethod", "QD8TProductSec2", "QD8TProductSection", "QD8TProject",
-    "QD8TQuickField", "QD8TQuickForm", "QD8TReportFavorite", "QD8TSection", "QD8TSO", "Qd8TUser",
+    "QD8TQuickField", "QD8TQuickForm", "QD8TReportFavorite", "QD8TSection", "QD8TSO", "QD8TUnit", "Qd8TUser",
     "QD8TUserCommand", "QD8TUserOption", "QD8VCommand", "QD8VCustomData", "QD8VGLTrans", "QD8VJob",
     "QD8VJobMethod", "QD8VJobProduction", "QD8VJobProductionM", "QD8VOption", "QD8VOptionGroup",
     "QD8VPointTrans", "QD8VPointTransH", "QD8VPointTransSum", "QD8VPR", "QD8VQuickGroup", "QD8VQuickGroupBK",
@@ -82,6 +85,219 @@ TEST_P(SchemaTest, CheckReportsMissingTablesAndColumns)
 }
 
 QD8_ON_BOTH_ENGINES(SchemaTest);
+
+// The sample company on the engine under test, read back through the data layer.
+class SampleSchemaTest : public SampleCompanyTest {
+protected:
+    static QStringList column(Connection& connection, const Sql& sql)
+    {
+        Recordset rs;
+        rs.open(sql, connection);
+        QStringList values;
+        for (; !rs.eof(); rs.moveNext())
+            values << rs.text(rs.fieldName(0));
+        return values;
+    }
+    // Why a statement cannot run, or "" when it runs.
+    static QString failure(Connection& connection, const Sql& sql)
+    {
+        try {
+            Recordset rs;
+            rs.open(sql, connection);
+            return {};
+        } catch (const DbError& error) {
+            return sql.text() + QStringLiteral(": ") + error.message();
+        }
+    }
+};
+
+TEST_P(SampleSchemaTest, AutoNumberKeysAreAssignedByTheDatabaseAndNeverGivenTwice)
+{
+    Connection data;
+    data.open(dataConnectionString());
+    QList<qint64> sample;
+    for (const QString& id : column(data, Sql("SELECT TUntID FROM QD8TUnit ORDER BY TUntID")))
+        sample << id.toLongLong();
+    ASSERT_GE(sample.size(), 2) << "the sample inserts its units without a key";
+    EXPECT_EQ(QSet<qint64>(sample.begin(), sample.end()).size(), sample.size());
+
+    // A row written by statement and a row written as the quick form editor writes one
+    // (a recordset whose key field is never set) both take keys after the sample's: on
+    // PostgreSQL the identity has counted the sample rows, it does not start again at 1.
+    data.execute(Sql("INSERT INTO QD8TUnit (TUntCode, TUntName, TUntName2) VALUES ('TST1', 'ทดสอบ', 'Test')"));
+    Recordset added;
+    added.open(Sql("SELECT * FROM QD8TUnit WHERE 1=0"), data, Recordset::adOpenKeyset, Recordset::adLockOptimistic);
+    added.addNew();
+    added.setField(QStringLiteral("TUntCode"), QStringLiteral("TST2"));
+    added.setField(QStringLiteral("TUntName"), QStringLiteral("ทดสอบสอง"));
+    added.update();
+    added.close();
+    const QStringList fresh = column(data, Sql("SELECT TUntID FROM QD8TUnit WHERE TUntCode IN ('TST1','TST2') ORDER BY TUntID"));
+    ASSERT_EQ(fresh.size(), 2);
+    EXPECT_NE(fresh[0], fresh[1]);
+    EXPECT_GT(fresh[0].toLongLong(), sample.last());
+    EXPECT_EQ(column(data, Sql("SELECT TUntFlag1 FROM QD8TUnit WHERE TUntCode='TST2'")), QStringList{"1"});  // column defaults apply
+
+    // The key of a deleted row is not handed out again, so an old reference to it can
+    // never come to mean a new unit.
+    data.execute(Sql("DELETE FROM QD8TUnit WHERE TUntID=") + fresh[1]);
+    data.execute(Sql("INSERT INTO QD8TUnit (TUntCode, TUntName) VALUES ('TST3', 'สาม')"));
+    EXPECT_GT(column(data, Sql("SELECT TUntID FROM QD8TUnit WHERE TUntCode='TST3'")).value(0).toLongLong(), fresh[1].toLongLong());
+    // The code stays unique.
+    EXPECT_THROW(data.execute(Sql("INSERT INTO QD8TUnit (TUntCode) VALUES ('TST1')")), DbError);
+}
+
+// Quick form metadata is only text naming tables, columns, forms and commands; a typo
+// would otherwise surface when a user opens the form. Every form of the sample is checked
+// against the databases it describes.
+TEST_P(SampleSchemaTest, EveryQuickFormNamesTablesColumnsFormsAndCommandsThatExist)
+{
+    Connection app, data;
+    app.open(appConnectionString());
+    data.open(dataConnectionString());
+    const auto asSet = [](const QStringList& list) { return QSet<QString>(list.begin(), list.end()); };
+    const QSet<QString> forms = asSet(column(app, Sql("SELECT TQFmAlias FROM QD8TQuickForm")));
+    const QSet<QString> commands = asSet(column(app, Sql("SELECT TCmdAlias FROM QD8TCommand")));
+    const QSet<QString> groups = asSet(column(app, Sql("SELECT TCmGAlias FROM QD8TCommandGroup")));
+    const QSet<QString> types{"TEXT", "NUMBER", "LABELLIST", "YESNO", "AUTONUMBER"};
+    ASSERT_GE(forms.size(), 10);
+    EXPECT_EQ(column(app, Sql("SELECT TQFFTQFmAlias FROM QD8TQuickField WHERE TQFFTQFmAlias IS NOT NULL AND TQFFTQFmAlias NOT IN "
+                              "(SELECT TQFmAlias FROM QD8TQuickForm)")),
+        QStringList()) << "fields of no form";
+
+    Recordset form;
+    form.open(Sql("SELECT * FROM QD8TQuickForm ORDER BY TQFmAlias"), app);
+    for (; !form.eof(); form.moveNext()) {
+        const QString alias = form.text(QStringLiteral("TQFmAlias"));
+        SCOPED_TRACE(alias.toStdString());
+        const auto get = [&](const char* name) { return form.text(QLatin1String(name)).trimmed(); };
+        const QString table = get("TQFmTable"), view = get("TQFmView"), flag = get("TQFmKeyIDEN") + QStringLiteral("Flag1");
+        EXPECT_FALSE(get("TQFmCaption").isEmpty() || get("TQFmCaption2").isEmpty()) << "a title in both languages";
+        EXPECT_TRUE(groups.contains(get("TQFmTCmGAlias"))) << "module " << get("TQFmTCmGAlias").toStdString();
+
+        QStringList all, active, keys;
+        Recordset field;
+        field.open(Sql("SELECT * FROM QD8TQuickField WHERE TQFFTQFmAlias=") + quoted(alias) + " ORDER BY TQFFSort", app);
+        for (; !field.eof(); field.moveNext()) {
+            const QString name = field.text(QStringLiteral("TQFFFieldName"));
+            const QString type = field.text(QStringLiteral("TQFFFieldType"));
+            SCOPED_TRACE(name.toStdString());
+            all << name;
+            EXPECT_TRUE(types.contains(type)) << type.toStdString();
+            EXPECT_EQ(type == QLatin1String("LABELLIST"), !field.text(QStringLiteral("TQFFLabelList")).isEmpty());
+            if (field.text(QStringLiteral("TQFFFlag1")) != QLatin1String("1"))
+                continue;
+            active << name;
+            EXPECT_FALSE(field.text(QStringLiteral("TQFFCaption")).isEmpty() || field.text(QStringLiteral("TQFFCaption2")).isEmpty());
+            if (field.text(QStringLiteral("TQFFPrimaryKey")) == QLatin1String("1"))
+                keys << name;
+            else
+                EXPECT_NE(type, "AUTONUMBER") << "only a key is numbered by the database";
+            const QString pick = field.text(QStringLiteral("TQFFRunQuickForm"));
+            EXPECT_TRUE(pick.isEmpty() || forms.contains(pick)) << "pick form " << pick.toStdString();
+            const QString deleteAlias = field.text(QStringLiteral("TQFFCanDeleteAlias"));
+            if (!deleteAlias.isEmpty()) {
+                // The referring column is the other form's prefix + this column's name.
+                Recordset other;
+                other.open(Sql("SELECT TQFmTable, TQFmKeyIDEN FROM QD8TQuickForm WHERE TQFmAlias=") + quoted(deleteAlias), app);
+                ASSERT_FALSE(other.eof()) << "deletion check form " << deleteAlias.toStdString();
+                EXPECT_EQ(failure(data, Sql("SELECT ") + other.text(QStringLiteral("TQFmKeyIDEN")) + name + " FROM "
+                                      + other.text(QStringLiteral("TQFmTable")) + " WHERE 1=0"),
+                    QString());
+            }
+        }
+        ASSERT_FALSE(active.isEmpty());
+        // The pick list reads every field, inactive ones included, through the form's own
+        // filter and order; the editor reads the active ones and the rows' flag.
+        const QString where = get("TQFmWhere"), order = get("TQFmOrder");
+        EXPECT_EQ(failure(data, Sql("SELECT ") + all.join(QLatin1Char(',')) + "," + flag + " FROM " + view
+                                    + (where.isEmpty() ? QString() : QStringLiteral(" WHERE ") + where)
+                                    + (order.isEmpty() ? QString() : QStringLiteral(" ORDER BY ") + order)),
+            QString());
+        // A save writes the active fields and the flag to the table.
+        EXPECT_EQ(failure(data, Sql("SELECT ") + active.join(QLatin1Char(',')) + "," + flag + " FROM " + table + " WHERE 1=0"), QString());
+        // The key list of the pick list and the key flags of the editor name the same fields.
+        QStringList listed = get("TQFmPKList").split(QLatin1Char(','), Qt::SkipEmptyParts);
+        for (QString& key : listed)
+            key = key.trimmed();
+        EXPECT_EQ(listed, keys);
+
+        const QString pick = get("TQFmRunQuickForm");
+        EXPECT_TRUE(pick.isEmpty() || forms.contains(pick)) << "pick form " << pick.toStdString();
+        const QString print = get("TQFmPrintTCmdAlias");
+        EXPECT_TRUE(print.isEmpty() || commands.contains(print)) << "print command " << print.toStdString();
+        if (get("TQFmDeleteAuto") == QLatin1String("1"))
+            EXPECT_EQ(failure(data, Sql("SELECT ") + get("TQFmDeleteField") + " FROM " + get("TQFmDeleteTable") + " WHERE 1=0"), QString());
+    }
+}
+
+// What the sample is there to show, form by form (docs/schema.md lists the same).
+TEST_P(SampleSchemaTest, TheSampleFormsShowWhatTheyAreThereToShow)
+{
+    const struct {
+        const char* form;
+        const char* feature;
+        const char* condition;  // on QD8TQuickForm f
+    } cases[] = {
+        {"UNIT", "a key the database assigns",
+            "EXISTS (SELECT 1 FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFFieldType='AUTONUMBER' AND q.TQFFPrimaryKey=1)"},
+        {"UNIT", "a yes/no field",
+            "EXISTS (SELECT 1 FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFFieldType='YESNO' AND q.TQFFFlag1=1)"},
+        {"UNIT", "a number with decimals and both bounds",
+            "EXISTS (SELECT 1 FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFFieldType='NUMBER' AND q.TQFFDecimal>0 "
+            "AND q.TQFFMinCon=1 AND q.TQFFMaxCon=1 AND q.TQFFMinValue<q.TQFFMaxValue)"},
+        {"UNIT", "a text of limited length that no two rows share",
+            "EXISTS (SELECT 1 FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFFieldType='TEXT' AND q.TQFFMaxlength>0 "
+            "AND q.TQFFCanDuplicate=0 AND q.TQFFPrimaryKey=0)"},
+        {"PROJECT", "a label list",
+            "EXISTS (SELECT 1 FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFFieldType='LABELLIST' AND q.TQFFFlag1=1)"},
+        {"DEPARTMENT", "an F2 pick list",
+            "EXISTS (SELECT 1 FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFRunQuickForm='DIVISION')"},
+        {"SECTION", "a two-column key",
+            "(SELECT COUNT(*) FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFPrimaryKey=1 AND q.TQFFFlag1=1)=2"},
+        {"DIVISION", "a deletion check with its own message",
+            "f.TQFmDeleteAuto=1 AND f.TQFmDeleteTable='QD8TDepartment' AND f.TQFmDeleteMessage<>''"},
+        {"DEPARTMENT", "a print command", "f.TQFmPrintTCmdAlias='HRORGANIZATION'"},
+        {"DIVISION", "automatic print", "COALESCE(f.TQFmPrintTCmdAlias,'')='' AND f.TQFMMasterReportNo IN (1,2)"},
+        {"PRODUCTLINE", "read-only", "f.TQFmReadOnly=1"},
+        {"BRANCH", "rows are never deleted", "f.TQFmCanDelete=0 AND f.TQFmReadOnly=0"},
+        {"JOURNALBOOK", "rows are neither added nor deleted", "f.TQFmCanAdd=0 AND f.TQFmCanDelete=0 AND f.TQFmReadOnly=0"},
+        {"BRANCH", "a field kept but not in use",
+            "EXISTS (SELECT 1 FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFFlag1=0)"},
+    };
+    Connection app;
+    app.open(appConnectionString());
+    for (const auto& c : cases)
+        EXPECT_EQ(column(app, Sql("SELECT f.TQFmAlias FROM QD8TQuickForm f WHERE f.TQFmFlag1=1 AND f.TQFmAlias='") + c.form + "' AND "
+                                  + c.condition),
+            QStringList{QString::fromLatin1(c.form)})
+            << c.form << ": " << c.feature;
+}
+
+// A command is listed only with a right row, and user 0 is the template every new user
+// copies: it holds every right of every command, the quick-form commands included. Each
+// quick-form group command opens a group that offers forms.
+TEST_P(SampleSchemaTest, TheTemplateUserMayRunEveryCommandAndEveryQuickGroupOffersForms)
+{
+    Connection app, data;
+    app.open(appConnectionString());
+    data.open(dataConnectionString());
+    const QStringList all = column(app, Sql("SELECT TCmdAlias FROM QD8TCommand ORDER BY TCmdAlias"));
+    const QStringList granted = column(data, Sql("SELECT TURtTCmdAlias FROM QD8TUserRight WHERE TURtTUsrID=0 AND TURtRun=1 AND TURtShow=1 "
+                                                 "AND TURtAdd=1 AND TURtDelete=1 AND TURtEdit=1 AND TURtPrint=1"));
+    for (const QString& alias : all)
+        EXPECT_TRUE(granted.contains(alias)) << alias.toStdString();
+
+    const QStringList quickGroups = column(app, Sql("SELECT TCmdAlias FROM QD8TCommand WHERE TCmdAlias LIKE '%QUICK' ORDER BY TCmdAlias"));
+    EXPECT_GE(quickGroups.size(), 3);
+    for (const QString& alias : quickGroups) {
+        const QStringList offered = column(app, Sql("SELECT v.TQFmAlias FROM QD8VQuickGroup v INNER JOIN QD8TCommand c ON c.TCmdTCmGAlias=v.TCmGAlias "
+                                                    "WHERE v.TQFmFlag1=1 AND c.TCmdAlias=") + quoted(alias));
+        EXPECT_GE(offered.size(), 2) << alias.toStdString();
+    }
+}
+
+QD8_ON_BOTH_ENGINES(SampleSchemaTest);
 
 TEST(Admin, InitCreatesTheSampleCompanyThatTheStockSqliteShellReads)
 {

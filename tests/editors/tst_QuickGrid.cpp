@@ -266,6 +266,32 @@ TEST_P(QuickGridTest, CellChecksRefuseDuplicatesBoundsAndLength)
     }
 }
 
+TEST_P(QuickGridTest, ANewRowOfAnAutonumberFormGetsItsKeyFromTheDatabase)
+{
+    grid.cmdWhereShow("UNIT");
+    GridEditor* g = grid.grid();
+    const int rows = g->Rows();
+    grid.buttonClick("Add");
+    const int added = g->Rows();
+    ASSERT_EQ(added, rows + 1);
+    g->SetValue(added, 1, "CTN");
+    g->SetValue(added, 2, "ลัง");
+    g->SetValue(added, 4, 10);
+    scriptedMessages().answers = {true};
+    SqlTrace::Recorder trace;
+    ASSERT_TRUE(grid.save());
+    for (const QString& statement : trace.sent())
+        EXPECT_FALSE(statement.startsWith("INSERT") && statement.contains("TUntID")) << statement.toStdString();  // never written
+    Connection c;
+    c.open(dataConnectionString());
+    Recordset rs;
+    rs.open("SELECT TUntID, TUntRatio, TUntFlag1 FROM QD8TUnit WHERE TUntCode='CTN'", c);
+    ASSERT_FALSE(rs.eof());
+    EXPECT_GT(rs.field("TUntID").toInt(), 7);
+    EXPECT_EQ(rs.field("TUntFlag1").toInt(), 1);
+    EXPECT_EQ(g->Rows(), rows + 1);  // read back with the key the database gave it
+}
+
 TEST_P(QuickGridTest, EverySampleQuickFormLoadsAndItsPickListRuns)
 {
     Connection app;
