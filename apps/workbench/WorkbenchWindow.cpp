@@ -222,19 +222,34 @@ void WorkbenchWindow::setLanguage(int languageId)
     fillModules(m_modules->currentData().toString());
     refreshLaunchers();
     updateStatusLabels();
-    // Open forms take the new language from the user's setting again.
-    for (int i = 0; i < m_tabs->count(); ++i) {
-        auto* control = qobject_cast<HostedControl*>(m_tabs->widget(i));
-        if (!control)
-            continue;
-        control->SetLast2(control->session().FolderPathName, control->session().ControlName, QString::number(m_session.userId),
-            m_session.dataConnectionString, m_session.appConnectionString);
-        control->Refresh();
-        if (control->metaObject()->indexOfMethod("caption()") >= 0) {
+    // Open forms take the new language from the user's setting again; a form with changes
+    // in progress keeps them and changes language at its next load.
+    try {
+        for (int i = 0; i < m_tabs->count(); ++i) {
+            auto* control = qobject_cast<HostedControl*>(m_tabs->widget(i));
+            const QString mode = control ? control->property("RUNMODE").toString() : QString();
+            if (!control)
+                continue;
+            control->SetLast2(control->session().FolderPathName, control->session().ControlName, QString::number(m_session.userId),
+                m_session.dataConnectionString, m_session.appConnectionString);
+            if (mode != QLatin1String("ADD") && mode != QLatin1String("EDIT")) {
+                control->Refresh();
+                if (control->metaObject()->indexOfSlot("FillData()") >= 0)
+                    QMetaObject::invokeMethod(control, "FillData");
+            }
+            // The tab takes the form's own title, else its command's caption in the new language.
             QString caption;
-            QMetaObject::invokeMethod(control, "caption", Q_RETURN_ARG(QString, caption));
-            m_tabs->setTabText(i, caption);
+            Command command;
+            if (control->metaObject()->indexOfMethod("caption()") >= 0)
+                QMetaObject::invokeMethod(control, "caption", Q_RETURN_ARG(QString, caption));
+            else if (findCommand(tabCommand(i), &command))
+                caption = command.caption;
+            if (!caption.isEmpty())
+                m_tabs->setTabText(i, caption);
         }
+    } catch (const DbError& error) {
+        showStatus(error.message());
+        return;
     }
     showStatus(text("ภาษาไทย", "English"));
 }

@@ -255,6 +255,16 @@ TEST_P(WorkbenchTest, AClerkMaintainsAMasterTableFromTheRibbon)
     rs.open("SELECT TDivName2 FROM QD8TDivision WHERE TDivCode='D01'", c);
     EXPECT_EQ(rs.text("TDivName2"), "Accounting and Finance");
     EXPECT_EQ(scriptedMessages().shown.last().text, "บันทึกข้อมูล  1 รายการ   ลบข้อมูล 0 รายการ เรียบร้อย");
+
+    // Switching the language while editing keeps what was typed.
+    editor->buttonClick("Edit");
+    editor->grid()->SetValue(1, 3, "Finance");
+    window->languageBox()->setCurrentIndex(0);
+    EXPECT_EQ(editor->grid()->GetValue(1, 3).toString(), "Finance");
+    EXPECT_EQ(editor->RUNMODE(), "EDIT");
+    editor->cmdCancel_Click();
+    EXPECT_EQ(window->tabs()->tabText(window->tabs()->currentIndex()), "ฝ่าย");
+    EXPECT_EQ(editor->grid()->TextMatrix(0, 1), "รหัส");
 }
 
 QD8_ON_BOTH_ENGINES(WorkbenchTest);
