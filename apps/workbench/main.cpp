@@ -52,7 +52,6 @@ int main(int argc, char* argv[])
     options.addOptions({
         {"dir", "Folder of the SQLite sample company (created when missing).", "DIR", QDir::home().filePath(".qd8/sample")},
         {"app", "Connection string of the application database.", "CONN"},
-        {"center", "Connection string of the command-centre database (derived from --app when not given).", "CONN"},
         {"data", "Connection string of the company data database.", "CONN"},
         {"files", "Folder of icons and INI files for --app/--data.", "DIR"},
         {"user", "Log in as this user (no login dialog).", "NAME"},
