@@ -10,6 +10,8 @@ namespace qd8 {
 
 namespace {
 
+constexpr int MaximumCaptionWidth = 180;  // pixels
+
 struct ToggleMode {
     const char* caption;
     const char* toolTip;
@@ -140,7 +142,13 @@ void DocumentToolBar::fill(CommandSet set)
         if (++position > CommandButtons)
             return false;
         if (entry.listable) {
-            m_commands[position]->setText(entry.caption);
+            // Fifteen long captions must still fit one row: long ones are shortened on the
+            // button and shown whole in the tool tip.
+            QString shown = entry.caption;
+            shown.replace(QStringLiteral("&&"), QStringLiteral("&"));
+            shown = m_commands[position]->fontMetrics().elidedText(shown, Qt::ElideRight, MaximumCaptionWidth);
+            shown.replace(QLatin1Char('&'), QStringLiteral("&&"));
+            m_commands[position]->setText(shown);
             m_commands[position]->setToolTip(entry.caption);
             m_aliases[position] = entry.alias;
             m_commands[position]->setVisible(true);

@@ -53,6 +53,11 @@ TEST_P(DocumentToolBarTest, ADeniedRowKeepsItsPositionAndNothingPassesTheFifteen
         expected << (i == 3 ? QString() : QStringLiteral("BIG%1").arg(i, 2, 10, QLatin1Char('0')));
     EXPECT_EQ(positions(), expected);
     EXPECT_EQ(bar.commandButton(1)->text(), "ชื่อ BIG01");
+    // A long caption is shortened on its button and kept whole in the tool tip.
+    runOnApp({QStringLiteral("UPDATE QD8TCommand SET TCmdName='%1' WHERE TCmdAlias='BIG02'").arg(QString(60, QChar(0x0E01)))});
+    bar.DOMAINLIST();
+    EXPECT_LT(bar.commandButton(2)->text().size(), 60);
+    EXPECT_EQ(bar.commandButton(2)->toolTip(), QString(60, QChar(0x0E01)));
 }
 
 TEST_P(DocumentToolBarTest, TheToggleCyclesUserModuleMainAndBack)
