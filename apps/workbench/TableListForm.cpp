@@ -79,10 +79,11 @@ QString TableListForm::statement() const
     const QString search = m_search->text().trimmed();
     if (!search.isEmpty()) {
         QStringList terms;
-        for (const QString& field : splitList(withSuffix(m_definition.searchFields)))
-            terms << (field + QStringLiteral(" LIKE ") + quoted(QLatin1Char('%') + search + QLatin1Char('%')).text());
         if (search.contains(QLatin1Char('\'')))
-            terms = {QStringLiteral("1=0")};  // a quote cannot be searched for; nothing matches
+            terms << QStringLiteral("1=0");  // a quote cannot be searched for; nothing matches
+        else
+            for (const QString& field : splitList(withSuffix(m_definition.searchFields)))
+                terms << field + QStringLiteral(" LIKE '%") + search + QStringLiteral("%'");
         conditions << QLatin1Char('(') + terms.join(QStringLiteral(" OR ")) + QLatin1Char(')');
     }
     if (!conditions.isEmpty())

@@ -129,12 +129,6 @@ QStringList QuickGrid::propertyKeysRead() const
     return {QStringLiteral("ConnectionString"), QStringLiteral("DataConnectionString"), QStringLiteral("QuickGroup")};
 }
 
-int QuickGrid::SetParentForm(QWidget* PassForm, bool ActionSingleControl)
-{
-    HostedControl::SetParentForm(PassForm, ActionSingleControl);
-    return 0;
-}
-
 void QuickGrid::Refresh()
 {
     m_groupForms.clear();

@@ -59,8 +59,6 @@ public:
     // The statement the rows were read with.
     QString loadStatement() const;
 
-    int SetParentForm(QWidget* PassForm, bool ActionSingleControl = false) override;
-
 public Q_SLOTS:
     // Lists the forms of QuickGroup (the selector's choices).
     void Refresh() override;

@@ -111,6 +111,28 @@ QString QuickGrid::inUseProblem(Connection& data) const
 {
     // A key still used elsewhere is not deleted: by the form's own check (its table and
     // field), and by the check a column names (the quick form whose table refers to it).
+    struct Reference {
+        int col;
+        QString table;
+        QString column;  // the referring form's key prefix + this column's name
+    };
+    QList<Reference> references;
+    bool resolved = false;
+    const auto resolveReferences = [&] {
+        resolved = true;
+        Connection app;
+        for (int col = 1; col <= m_form.fields.size(); ++col) {
+            const QuickFieldDefinition& f = m_form.fields[col - 1];
+            if (f.canDeleteAlias.isEmpty())
+                continue;
+            if (!app.isOpen())
+                app.open(ConnectionString());
+            Recordset other;
+            other.open(Sql("SELECT TQFmTable, TQFmKeyIDEN FROM QD8TQuickForm WHERE TQFmAlias=") + quoted(f.canDeleteAlias), app);
+            if (!other.eof())
+                references.append({col, other.text(QStringLiteral("TQFmTable")), other.text(QStringLiteral("TQFmKeyIDEN")) + f.fieldName});
+        }
+    };
     for (int row = 1; row <= m_grid->Rows(); ++row) {
         if (m_grid->RowMark(row) != QLatin1String("D") || row > m_loaded.size())
             continue;
@@ -123,23 +145,15 @@ QString QuickGrid::inUseProblem(Connection& data) const
                                                        : m_form.deleteMessage)
                     + QStringLiteral(" (") + key + QLatin1Char(')');
         }
-        for (int col = 1; col <= m_form.fields.size(); ++col) {
-            const QuickFieldDefinition& f = m_form.fields[col - 1];
-            if (f.canDeleteAlias.isEmpty())
-                continue;
-            Connection app;
-            app.open(ConnectionString());
-            Recordset other;
-            other.open(Sql("SELECT TQFmTable, TQFmKeyIDEN FROM QD8TQuickForm WHERE TQFmAlias=") + quoted(f.canDeleteAlias), app);
-            if (other.eof())
-                continue;
-            const QString referring = other.text(QStringLiteral("TQFmKeyIDEN")) + f.fieldName;
+        if (!resolved)
+            resolveReferences();
+        for (const Reference& reference : references) {
+            const QString value = qd8::text(keyValue(row, reference.col));
             Recordset used;
-            used.open(Sql("SELECT ") + referring + " FROM " + other.text(QStringLiteral("TQFmTable")) + " WHERE " + referring + "="
-                    + quoted(qd8::text(keyValue(row, col))),
-                data);
+            used.open(Sql("SELECT ") + reference.column + " FROM " + reference.table + " WHERE " + reference.column + "=" + quoted(value), data);
             if (!used.eof())
-                return text("%1 %2 ยังถูกใช้งานอยู่ ลบไม่ได้", "%1 %2 is still in use and cannot be deleted").arg(plainCaption(f), qd8::text(keyValue(row, col)));
+                return text("%1 %2 ยังถูกใช้งานอยู่ ลบไม่ได้", "%1 %2 is still in use and cannot be deleted")
+                    .arg(plainCaption(m_form.fields[reference.col - 1]), value);
         }
     }
     return {};

@@ -316,9 +316,11 @@ TEST_P(QuickGridTest, EverySampleQuickFormLoadsAndItsPickListRuns)
         const PickRequest& request = scriptedPicker().requests.first();
         Recordset rows;
         EXPECT_NO_THROW(rows.open(Sql("SELECT ") + request.fieldList + " FROM " + request.source, data));
-        for (const QuickFieldDefinition& field : grid.form().fields)
-            if (!field.runQuickForm.isEmpty())
+        for (const QuickFieldDefinition& field : grid.form().fields) {
+            if (!field.runQuickForm.isEmpty()) {
                 EXPECT_TRUE(aliases.contains(field.runQuickForm) || field.runQuickForm == "QDIV") << field.runQuickForm.toStdString();
+            }
+        }
     }
     EXPECT_TRUE(scriptedMessages().shown.isEmpty());
 }
