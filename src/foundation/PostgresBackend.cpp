@@ -2,13 +2,14 @@
 
 #include "foundation/Currency.h"
 #include "foundation/DbError.h"
+#include "foundation/RowStore.h"
 
 #include <QDate>
 #include <QDateTime>
 #include <libpq-fe.h>
 #include <poll.h>
 
-#include <algorithm>
+#include <cstring>
 #include <functional>
 #include <vector>
 
@@ -40,16 +41,80 @@ ColumnKind kindOfOid(Oid oid)
     }
 }
 
-// The PGresult itself is the row store: libpq already keeps it compact.
+// A number's text as libpq gives it, parsed from a NUL-terminated copy.
+template <typename Parse>
+auto parsedNumber(const char* data, qsizetype size, Parse parse)
+{
+    char buffer[64];
+    if (size < qsizetype(sizeof buffer)) {
+        std::memcpy(buffer, data, size_t(size));
+        buffer[size] = '\0';
+        return parse(QByteArray::fromRawData(buffer, size));
+    }
+    return parse(QByteArray(data, size));
+}
+
+// One non-NULL cell of text format, as its column's kind reads it.
+QVariant cellValue(const char* data, qsizetype size, ColumnKind kind)
+{
+    switch (kind) {
+    case ColumnKind::Integer: {
+        const qlonglong v = parsedNumber(data, size, [](const QByteArray& text) { return text.toLongLong(); });
+        return v >= INT32_MIN && v <= INT32_MAX ? QVariant(int(v)) : QVariant(v);
+    }
+    case ColumnKind::Real:
+        return parsedNumber(data, size, [](const QByteArray& text) { return text.toDouble(); });
+    case ColumnKind::Bool:
+        return QVariant(size > 0 && data[0] == 't');
+    case ColumnKind::Money:
+        // numeric arrives as exact decimal text; money that fits four decimals is Currency
+        if (auto c = Currency::parse(data, size))
+            return QVariant::fromValue(*c);
+        return parsedNumber(data, size, [](const QByteArray& text) { return text.toDouble(); });
+    case ColumnKind::Date:
+        return QDate::fromString(QLatin1String(data, size), Qt::ISODate);
+    case ColumnKind::DateTime: {
+        // "2026-01-31 13:45:00[.123456][+07]"
+        const QLatin1String text(data, qMin<qsizetype>(size, 19));
+        QDateTime dt = QDateTime::fromString(text, QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+        if (size > 20 && data[19] == '.') {
+            int ms = 0, digits = 0;
+            for (qsizetype i = 20; i < size && data[i] >= '0' && data[i] <= '9'; ++i, ++digits)
+                if (digits < 3)
+                    ms = ms * 10 + (data[i] - '0');
+            for (; digits < 3; ++digits)
+                ms *= 10;
+            dt = dt.addMSecs(ms);
+        }
+        return dt;
+    }
+    case ColumnKind::Blob: {
+        const QByteArray escaped(data, size);  // libpq reads up to the NUL
+        size_t length = 0;
+        unsigned char* bytes = PQunescapeBytea(reinterpret_cast<const unsigned char*>(escaped.constData()), &length);
+        QByteArray out(reinterpret_cast<const char*>(bytes), qsizetype(length));
+        PQfreemem(bytes);
+        return out;
+    }
+    default:
+        return QString::fromUtf8(data, size);
+    }
+}
+
+QList<ColumnInfo> columnsOf(const PGresult* result)
+{
+    QList<ColumnInfo> columns;
+    const int count = PQnfields(result);
+    columns.reserve(count);
+    for (int c = 0; c < count; ++c)
+        columns.append({QString::fromUtf8(PQfname(result, c)), kindOfOid(PQftype(result, c))});
+    return columns;
+}
+
+// A statement's rows read at once: the PGresult itself is the row store.
 class PostgresResult final : public ResultData {
 public:
-    explicit PostgresResult(PGresult* result) : m_result(result)
-    {
-        const int count = PQnfields(result);
-        m_columns.reserve(count);
-        for (int c = 0; c < count; ++c)
-            m_columns.append({QString::fromUtf8(PQfname(result, c)), kindOfOid(PQftype(result, c))});
-    }
+    explicit PostgresResult(PGresult* result) : m_result(result) { m_columns = columnsOf(result); }
     ~PostgresResult() override { PQclear(m_result); }
 
     qsizetype rowCount() const override { return PQntuples(m_result); }
@@ -59,57 +124,20 @@ public:
         const int r = int(row);
         if (PQgetisnull(m_result, r, column))
             return {};
-        const char* data = PQgetvalue(m_result, r, column);
-        const int size = PQgetlength(m_result, r, column);
-        switch (m_columns[column].kind) {
-        case ColumnKind::Integer: {
-            const qlonglong v = QByteArray::fromRawData(data, size).toLongLong();
-            return v >= INT32_MIN && v <= INT32_MAX ? QVariant(int(v)) : QVariant(v);
-        }
-        case ColumnKind::Real:
-            return QByteArray::fromRawData(data, size).toDouble();
-        case ColumnKind::Bool:
-            return QVariant(data[0] == 't');
-        case ColumnKind::Money:
-            // numeric arrives as exact decimal text; money that fits four decimals is Currency
-            if (auto c = Currency::parse(data, size))
-                return QVariant::fromValue(*c);
-            return QByteArray::fromRawData(data, size).toDouble();
-        case ColumnKind::Date:
-            return QDate::fromString(QLatin1String(data, size), Qt::ISODate);
-        case ColumnKind::DateTime: {
-            // "2026-01-31 13:45:00[.123456][+07]"
-            const QLatin1String text(data, qMin(size, 19));
-            QDateTime dt = QDateTime::fromString(text, QStringLiteral("yyyy-MM-dd HH:mm:ss"));
-            if (size > 20 && data[19] == '.') {
-                int ms = 0, digits = 0;
-                for (int i = 20; i < size && data[i] >= '0' && data[i] <= '9'; ++i, ++digits)
-                    if (digits < 3)
-                        ms = ms * 10 + (data[i] - '0');
-                for (; digits < 3; ++digits)
-                    ms *= 10;
-                dt = dt.addMSecs(ms);
-            }
-            return dt;
-        }
-        case ColumnKind::Blob: {
-            size_t length = 0;
-            unsigned char* bytes = PQunescapeBytea(reinterpret_cast<const unsigned char*>(data), &length);
-            QByteArray out(reinterpret_cast<const char*>(bytes), qsizetype(length));
-            PQfreemem(bytes);
-            return out;
-        }
-        default:
-            return QString::fromUtf8(data, size);
-        }
+        return cellValue(PQgetvalue(m_result, r, column), PQgetlength(m_result, r, column), m_columns[column].kind);
     }
 
 private:
     PGresult* m_result;
 };
 
+struct ResultClear {
+    void operator()(PGresult* result) const { PQclear(result); }
+};
+
 // A server-side cursor in a read-only transaction of the stream's own connection; each
-// batch is one FETCH, kept as its PGresult.
+// batch is one FETCH, copied into the stream's row store and its PGresult freed at once
+// (a PGresult takes about twice the room).
 class PostgresStream final : public RowStream {
 public:
     PostgresStream(PostgresBackend& backend, std::function<PGresult*(const QString&)> run)
@@ -128,34 +156,38 @@ public:
     {
         if (m_done || rows <= 0)
             return 0;
-        auto batch = std::make_unique<PostgresResult>(m_run(QStringLiteral("FETCH FORWARD %1 FROM qd8_stream").arg(rows)));
-        const qsizetype added = batch->rowCount();
+        const std::unique_ptr<PGresult, ResultClear> batch(m_run(QStringLiteral("FETCH FORWARD %1 FROM qd8_stream").arg(rows)));
         if (m_columns.isEmpty())
-            m_columns = batch->columns();
+            m_columns = columnsOf(batch.get());
+        const int added = PQntuples(batch.get());
+        const int columns = PQnfields(batch.get());
+        for (int r = 0; r < added; ++r) {
+            for (int c = 0; c < columns; ++c) {
+                if (PQgetisnull(batch.get(), r, c))
+                    m_rows.addNull();
+                else
+                    m_rows.addText(PQgetvalue(batch.get(), r, c), PQgetlength(batch.get(), r, c));
+            }
+            m_rows.endRow();
+        }
         if (added < rows)
             m_done = true;
-        if (added > 0) {
-            m_starts.push_back(m_count);
-            m_count += added;
-            m_batches.push_back(std::move(batch));
-        }
         return added;
     }
     bool atEnd() const override { return m_done; }
-    qsizetype rowCount() const override { return m_count; }
+    qsizetype rowCount() const override { return m_rows.rowCount(); }
     QVariant value(qsizetype row, int column) const override
     {
-        const auto it = std::upper_bound(m_starts.begin(), m_starts.end(), row) - 1;
-        const size_t batch = size_t(it - m_starts.begin());
-        return m_batches[batch]->value(row - *it, column);
+        const RowStore::Cell cell = m_rows.cell(row, column);
+        if (cell.type == RowStore::Type::Null)
+            return {};
+        return cellValue(cell.data, cell.size, m_columns[column].kind);
     }
 
 private:
     PostgresBackend& m_backend;
     std::function<PGresult*(const QString&)> m_run;
-    std::vector<std::unique_ptr<PostgresResult>> m_batches;
-    std::vector<qsizetype> m_starts;
-    qsizetype m_count = 0;
+    RowStore m_rows;
     bool m_done = false;
 };
 

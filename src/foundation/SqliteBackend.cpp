@@ -2,15 +2,13 @@
 
 #include "foundation/Currency.h"
 #include "foundation/DbError.h"
+#include "foundation/RowStore.h"
 #include "foundation/ThaiCollation.h"
 
 #include <QFileInfo>
 #include <QDate>
 #include <QDateTime>
 #include <sqlite3.h>
-
-#include <cstring>
-#include <vector>
 
 namespace qd8 {
 
@@ -48,16 +46,10 @@ QVariant integerVariant(qint64 v)
     return v >= INT32_MIN && v <= INT32_MAX ? QVariant(int(v)) : QVariant(qlonglong(v));
 }
 
-// Rows packed into one byte arena: a cell is its storage class, offset and size.
-// Text stays UTF-8 until a cell is read.
+// Rows packed into a RowStore: a cell keeps its storage class and its bytes; text stays
+// UTF-8 until a cell is read.
 class SqliteResult final : public ResultData {
 public:
-    struct Cell {
-        quint64 offset;
-        quint32 size;
-        quint8 type;  // SQLITE_INTEGER, SQLITE_FLOAT, SQLITE_TEXT, SQLITE_BLOB, SQLITE_NULL
-    };
-
     explicit SqliteResult(sqlite3_stmt* stmt)
     {
         const int count = sqlite3_column_count(stmt);
@@ -70,81 +62,63 @@ public:
     {
         const int count = int(m_columns.size());
         for (int c = 0; c < count; ++c) {
-            const int type = sqlite3_column_type(stmt, c);
-            Cell cell{quint64(m_arena.size()), 0, quint8(type)};
-            switch (type) {
-            case SQLITE_INTEGER: {
-                const sqlite3_int64 v = sqlite3_column_int64(stmt, c);
-                m_arena.append(reinterpret_cast<const char*>(&v), sizeof v);
-                cell.size = sizeof v;
+            switch (sqlite3_column_type(stmt, c)) {
+            case SQLITE_INTEGER:
+                m_rows.addInteger(sqlite3_column_int64(stmt, c));
                 break;
-            }
-            case SQLITE_FLOAT: {
-                const double v = sqlite3_column_double(stmt, c);
-                m_arena.append(reinterpret_cast<const char*>(&v), sizeof v);
-                cell.size = sizeof v;
+            case SQLITE_FLOAT:
+                m_rows.addReal(sqlite3_column_double(stmt, c));
                 break;
-            }
             case SQLITE_TEXT: {
                 const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(stmt, c));
-                cell.size = quint32(sqlite3_column_bytes(stmt, c));
-                m_arena.append(text, cell.size);
+                m_rows.addText(text, sqlite3_column_bytes(stmt, c));
                 break;
             }
             case SQLITE_BLOB: {
                 const void* blob = sqlite3_column_blob(stmt, c);
-                cell.size = quint32(sqlite3_column_bytes(stmt, c));
-                m_arena.append(static_cast<const char*>(blob), cell.size);
+                m_rows.addBlob(static_cast<const char*>(blob), sqlite3_column_bytes(stmt, c));
                 break;
             }
             default:
+                m_rows.addNull();
                 break;
             }
-            m_cells.push_back(cell);
         }
+        m_rows.endRow();
     }
 
-    qsizetype rowCount() const override
-    {
-        return m_columns.isEmpty() ? 0 : qsizetype(m_cells.size()) / m_columns.size();
-    }
+    qsizetype rowCount() const override { return m_rows.rowCount(); }
 
     QVariant value(qsizetype row, int column) const override
     {
-        const Cell& cell = m_cells[size_t(row * m_columns.size() + column)];
-        const char* data = m_arena.constData() + cell.offset;
+        const RowStore::Cell cell = m_rows.cell(row, column);
         const ColumnKind kind = m_columns[column].kind;
         switch (cell.type) {
-        case SQLITE_INTEGER: {
-            sqlite3_int64 v;
-            std::memcpy(&v, data, sizeof v);
+        case RowStore::Type::Integer:
             if (kind == ColumnKind::Money)
-                return QVariant::fromValue(Currency::fromInt(v));
+                return QVariant::fromValue(Currency::fromInt(cell.integer));
             if (kind == ColumnKind::Bool)
-                return QVariant(v != 0);
-            return integerVariant(v);
-        }
-        case SQLITE_FLOAT: {
-            double v;
-            std::memcpy(&v, data, sizeof v);
+                return QVariant(cell.integer != 0);
+            return integerVariant(cell.integer);
+        case RowStore::Type::Real:
             // SQLite keeps NUMERIC as REAL: exact to 15 significant digits.
-            return kind == ColumnKind::Money ? QVariant::fromValue(Currency::fromDouble(v)) : QVariant(v);
+            return kind == ColumnKind::Money ? QVariant::fromValue(Currency::fromDouble(cell.real)) : QVariant(cell.real);
+        case RowStore::Type::Text:
+            return textValue(cell.data, cell.size, kind);
+        case RowStore::Type::Blob:
+            return QByteArray(cell.data, cell.size);
+        case RowStore::Type::Null:
+            break;
         }
-        case SQLITE_TEXT:
-            return textValue(data, cell.size, kind);
-        case SQLITE_BLOB:
-            return QByteArray(data, cell.size);
-        default:
-            return {};
-        }
+        return {};
     }
 
 private:
-    static QVariant textValue(const char* data, quint32 size, ColumnKind kind)
+    static QVariant textValue(const char* data, qsizetype size, ColumnKind kind)
     {
         switch (kind) {
         case ColumnKind::Date: {
-            const QDate d = QDate::fromString(QLatin1String(data, qMin<quint32>(size, 10)), Qt::ISODate);
+            const QDate d = QDate::fromString(QLatin1String(data, qMin<qsizetype>(size, 10)), Qt::ISODate);
             if (d.isValid())
                 return d;
             break;
@@ -168,11 +142,10 @@ private:
         return QString::fromUtf8(data, size);
     }
 
-    QByteArray m_arena;
-    std::vector<Cell> m_cells;
+    RowStore m_rows;
 };
 
-// A statement of its own, stepped a batch at a time into one growing arena.
+// A statement of its own, stepped a batch at a time into the result's row store.
 class SqliteStream final : public RowStream {
 public:
     explicit SqliteStream(sqlite3_stmt* stmt) : m_stmt(stmt), m_rows(stmt) { m_columns = m_rows.columns(); }
