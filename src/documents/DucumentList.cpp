@@ -1,0 +1,465 @@
+#include "documents/DucumentList.h"
+
+#include "database/ClientObject.h"
+#include "database/DataObject.h"
+#include "database/ListService.h"
+#include "database/PermissionObject.h"
+#include "database/SessionServices.h"
+#include "foundation/CommaList.h"
+#include "foundation/Connection.h"
+#include "foundation/DbError.h"
+#include "foundation/Recordset.h"
+#include "foundation/Services.h"
+#include "widgets/SendKeys.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDate>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+namespace qd8 {
+
+namespace {
+
+constexpr int PanelColumns = 4;  // label/box pairs per row of the filter panel
+
+// A date box as a clerk types it: dd/MM/yyyy (a Buddhist-era year above 2400 is taken
+// back 543 years) or yyyy-MM-dd; an invalid date for anything else.
+QDate boxDate(const QString& text)
+{
+    const QString t = text.trimmed();
+    QDate date = QDate::fromString(t, QStringLiteral("d/M/yyyy"));
+    if (!date.isValid())
+        date = QDate::fromString(t, Qt::ISODate);
+    if (date.isValid() && date.year() > 2400)
+        date = date.addYears(-543);
+    return date;
+}
+
+QString boxText(const QLineEdit* box)
+{
+    return box ? box->text().trimmed() : QString();
+}
+
+// " AND field='value'" for a filled box.
+void appendEquals(Sql& where, const QString& field, const QLineEdit* box)
+{
+    const QString value = boxText(box);
+    if (!field.isEmpty() && !value.isEmpty())
+        where += Sql(" AND ") + field + "=" + quoted(value);
+}
+
+void appendDate(Sql& where, const QString& field, const char* comparison, const QLineEdit* box)
+{
+    const QDate date = boxDate(boxText(box));
+    if (!field.isEmpty() && date.isValid())
+        where += Sql(" AND ") + field + comparison + dateMarker(date);
+}
+
+} // namespace
+
+DucumentList::DucumentList(QWidget* parent) : ListControl(parent)
+{
+    setAccessibleName(QStringLiteral("Document list"));
+}
+
+DucumentList::~DucumentList() = default;
+
+void DucumentList::SetFilter(const QString& iCommandAlias, const QString& iCommandGroup, std::shared_ptr<DataObject> iDataObj,
+    std::shared_ptr<AppObject> iAppObj, std::shared_ptr<ClientObject> iClientObj, FormCollection* iForms,
+    const QString& iLCaption, const QString& iFCaption)
+{
+    SetFilter2(iCommandAlias, iCommandGroup, std::move(iDataObj), std::move(iAppObj), std::move(iClientObj), iForms,
+        iLCaption, iFCaption, true);
+}
+
+void DucumentList::SetFilter2(const QString& iCommandAlias, const QString& iCommandGroup, std::shared_ptr<DataObject> iDataObj,
+    std::shared_ptr<AppObject> iAppObj, std::shared_ptr<ClientObject> iClientObj, FormCollection* iForms,
+    const QString& iLCaption, const QString& iFCaption, bool iDoFilterEmployee)
+{
+    m_doFilterEmployee = iDoFilterEmployee;
+    const bool found = loadDefinition(iCommandAlias, iCommandGroup, std::move(iDataObj), std::move(iAppObj),
+        std::move(iClientObj), iForms, iLCaption, iFCaption);
+    readSessionChoices();
+    buildPanel();
+    if (found)
+        runQuery();
+}
+
+void DucumentList::readSessionChoices()
+{
+    m_hrFilter = 0;
+    m_projectFilterOn = false;
+    m_defaultProject.clear();
+    try {
+        m_hrFilter = SessionServices::listService()
+                         .LookupValue(0, QStringLiteral("TCmdAlias"), CommandAlias(), QStringLiteral("TCmdHRFilter"),
+                             QStringLiteral("QD8TCommand"), AppConnectionString())
+                         .toInt();
+        if (dataObject())
+            m_projectFilterOn = dataObject()->optionNumber(QStringLiteral("EnableProjectFilter")) != 0;
+        Connection data;
+        data.open(DataConnectionString());
+        Recordset rs;
+        rs.open(Sql("SELECT TUsSValue FROM QD8TUserSetting WHERE TUsSTUsrID=") + qint64(UserID())
+                + " AND TUsSAlias='DefaultUserProject'",
+            data);
+        if (!rs.eof())
+            m_defaultProject = rs.text(QStringLiteral("TUsSValue")).trimmed();
+    } catch (const DbError& e) {
+        reportError(e.message());
+    }
+}
+
+QString DucumentList::loadingCaption() const
+{
+    return QStringLiteral("เลือกเอกสาร");
+}
+
+QString DucumentList::statusCondition(const QString& code, const QString& p, const QStringList& customConditions)
+{
+    if (code == QLatin1String("0"))
+        return " AND " + p + "CancelStatus<>1 AND " + p + "ConfirmStatus=1 AND " + p + "ApproveStatus=1";
+    if (code == QLatin1String("1"))
+        return " AND (" + p + "CancelStatus<>1 AND " + p + "ConfirmStatus=1 AND " + p + "ApproveStatus<>1) ";
+    if (code == QLatin1String("2"))
+        return " AND " + p + "CancelStatus<>1 AND " + p + "ConfirmStatus=1";
+    if (code == QLatin1String("3"))
+        return " AND " + p + "CancelStatus<>1 AND " + p + "ConfirmStatus<>1";
+    if (code == QLatin1String("4"))
+        return " AND " + p + "CancelStatus<>1 AND " + p + "ApproveStatus<>1";
+    if (code == QLatin1String("5"))
+        return " AND " + p + "CancelStatus<>1";
+    if (code == QLatin1String("6"))
+        return " AND " + p + "CancelStatus=1";
+    if (code == QLatin1String("8"))
+        return customConditions.value(0);
+    if (code == QLatin1String("9") && customConditions.size() >= 2)
+        return customConditions.value(1);
+    if (code == QLatin1String("10") && customConditions.size() >= 3)
+        return customConditions.value(2);
+    return {};
+}
+
+Sql DucumentList::composeWhere()
+{
+    const QString p = Prefix();
+    Sql where = Sql(" WHERE ") + p + "No<>''";
+
+    if (m_doFilterEmployee && m_hrFilter > 0) {
+        try {
+            const QString restriction = permission()->employeeScope(QStringLiteral("TEmpTEMTCode"), m_hrFilter - 1);
+            if (!restriction.isEmpty())
+                where += Sql(" AND ") + restriction;
+        } catch (const DbError& e) {
+            reportError(e.message());
+        }
+    }
+
+    const QString code = m_status ? m_statusCodes.value(m_status->currentIndex()) : QString();
+    where += statusCondition(code, p, splitList(m_def.FilterCustom));
+    if (code == QLatin1String("1") && clientObject() && clientObject()->approveNoteFilter())
+        where += Sql(" AND (") + p + "ApproveNote=" + quoted(clientObject()->approveNoteValue()) + " or " + p
+            + "ApproveNote='' or " + p + "ApproveNote is null) ";
+
+    appendDate(where, p + QStringLiteral("Date"), ">=", m_dateFrom);
+    appendDate(where, p + QStringLiteral("Date"), "<=", m_dateTo);
+    appendDate(where, m_def.FilterDeliveryDate, "<=", m_deliveryDate);
+    appendEquals(where, m_def.FilterAR, m_customer);
+    appendEquals(where, m_def.FilterAP, m_supplier);
+    const QStringList employees = splitList(boxText(m_employee));
+    if (!m_def.FilterEmployee.isEmpty() && employees.size() == 1)
+        appendEquals(where, m_def.FilterEmployee, m_employee);
+    else if (!m_def.FilterEmployee.isEmpty() && employees.size() > 1) {
+        Sql any;
+        for (const QString& employee : employees)
+            any += Sql(any.text().isEmpty() ? "" : " OR ") + m_def.FilterEmployee + "=" + quoted(employee.trimmed());
+        where += Sql(" AND (") + any + ")";
+    }
+    if (m_arrearOnly && m_arrearOnly->isChecked())
+        where += Sql(" AND ") + m_def.FilterArrear;
+    if (m_invArrearOnly && m_invArrearOnly->isChecked())
+        where += Sql(" AND ") + m_def.FilterInvArrear;
+    if (m_status2)
+        where += splitList(m_def.FilterCustom2).value(m_status2->currentIndex());
+    appendDate(where, m_def.FilterDate, ">=", m_date2From);
+    appendDate(where, m_def.FilterDate, "<=", m_date2To);
+    appendEquals(where, m_def.FilterDivision, m_division);
+    appendEquals(where, filter1KeyField().isEmpty() ? QString() : p + filter1KeyField(), m_filter1);
+    if (m_projectFilterOn)
+        appendEquals(where, m_def.FilterProject, m_project);
+    appendEquals(where, m_def.FilterProduct, m_product);
+    appendEquals(where, m_def.FilterProductG, m_productGroup);
+    appendEquals(where, m_def.FILTER2, m_filter2);
+    const QStringList codes = splitList(boxText(m_filter3));
+    if (!m_def.FILTER3.isEmpty() && codes.size() >= 2)
+        where += Sql(" AND (") + m_def.FILTER3 + "=" + quoted(codes[0].trimmed()) + " OR " + m_def.FILTER3 + "="
+            + quoted(codes[1].trimmed()) + ")";
+    else
+        appendEquals(where, m_def.FILTER3, m_filter3);
+    const QString branch = boxText(m_branch);
+    if (!branch.isEmpty())
+        where += Sql(" AND ") + p + "TBraCode=" + quoted(branch);
+    where += m_def.FilterCustomW;
+    return where;
+}
+
+QString DucumentList::composeOrder() const
+{
+    if (!CustomOrder().isEmpty())
+        return ListControl::composeOrder();
+    const QString order = m_sort ? splitList(m_def.OrderQuery).value(m_sort->currentIndex()).trimmed() : QString();
+    return order.isEmpty() ? QString() : QStringLiteral(" ORDER BY ") + order;
+}
+
+bool DucumentList::mayEdit(const QString& key)
+{
+    const QString p = Prefix();
+    try {
+        Connection data;
+        data.open(DataConnectionString());
+        Recordset rs;
+        rs.open(Sql("SELECT ") + p + "ApproveStatus, " + p + "CancelStatus, " + p + "ConfirmStatus FROM " + TABLENAME()
+                + " WHERE " + PKey() + "=" + quoted(key),
+            data);
+        if (rs.eof())
+            return true;
+        for (const char* status : {"ApproveStatus", "CancelStatus", "ConfirmStatus"}) {
+            if (rs.field(p + QLatin1String(status)).toInt() == 1)
+                return false;
+        }
+        return true;
+    } catch (const DbError& e) {
+        reportError(e.message());
+        return false;
+    }
+}
+
+QStringList DucumentList::keyMembers(bool adding) const
+{
+    if (adding)
+        return {QStringLiteral("NewDocNo")};
+    return {QStringLiteral("NewDocNo"), QStringLiteral("DocNo")};
+}
+
+void DucumentList::buildPanel()
+{
+    delete m_panel;
+    m_pickers.clear();
+    m_panel = new QWidget(this);
+    m_panel->setObjectName(QStringLiteral("filterPanel"));
+    m_grid = new QGridLayout(m_panel);
+    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_cell = 0;
+    panelLayout()->addWidget(m_panel);
+    const ListDefinition& d = m_def;
+
+    m_statusCodes = splitList(d.FilterStatus);
+    QStringList statusCaptions = splitList(d.FilterStatusCaptions);
+    if (m_statusCodes.isEmpty())
+        m_statusCodes = {QString()};
+    while (statusCaptions.size() < m_statusCodes.size())
+        statusCaptions << (statusCaptions.isEmpty() ? QStringLiteral("All") : m_statusCodes[statusCaptions.size()]);
+    statusCaptions = statusCaptions.mid(0, m_statusCodes.size());
+    m_status = addCombo("cboStatus", tr2("สถานะ", "Status"), statusCaptions, d.DefaultFilter);
+    m_status2 = d.FilterStatus2.isEmpty()
+        ? nullptr
+        : addCombo("Combo1", tr2("สถานะ 2", "Status 2"), splitList(d.FilterStatusCaptions2), 0);
+
+    m_backDays = nullptr;
+    if (d.filterBackDate && !d.BACKDAYLIST.isEmpty()) {
+        QStringList captions;
+        for (const QString& days : splitList(d.BACKDAYLIST))
+            captions << (days.trimmed().toInt() == 0 ? tr2("ทุกวันที่", "All dates") : tr2("ย้อนหลัง %1 วัน", "Last %1 days").arg(days.trimmed()));
+        m_backDays = addCombo("cboBackDay", tr2("ย้อนหลัง", "Back days"), captions, 0);
+        connect(m_backDays, &QComboBox::currentIndexChanged, this, [this] { applyBackDays(); });
+    }
+    m_dateFrom = addDateBox("txtDateFrom", tr2("จากวันที่", "From date"));
+    m_dateTo = addDateBox("txtDateTo", tr2("ถึงวันที่", "To date"));
+    m_deliveryDate = d.FilterDeliveryDate.isEmpty() ? nullptr : addDateBox("txtDeliveryDate", tr2("กำหนดส่งถึง", "Delivery by"));
+
+    const QString name = QStringLiteral("TARNName") + nameSuffix();
+    QString customers = QStringLiteral("QD8TAR INNER JOIN QD8TAR2 ON QD8TAR.TARNCode = QD8TAR2.TAR2TARNCode WHERE TARNCode<>''");
+    if (d.FilterARByEmp != 0)
+        customers += QStringLiteral(" AND TAR2SaleCode='") + SessionServices::listService()
+                         .LookupValue(QString(), QStringLiteral("TUsrID"), UserID(), QStringLiteral("TUsrTEmpCode"),
+                             QStringLiteral("QD8TUser"), DataConnectionString())
+                         .toString() + QLatin1Char('\'');
+    const auto picker = [this](const QString& title, const QString& key, const QString& nameField, const QString& source) {
+        return [=, this](QLineEdit* box) {
+            const QString code = pickCode(title, key, nameField, source);
+            if (!code.isEmpty()) {
+                box->setText(code);
+                SendKeys(QStringLiteral("{TAB}"));  // the pick moves on to the next box
+            }
+        };
+    };
+    m_customer = addBox("txtCustomer", tr2("ลูกค้า", "Customer"), d.FilterAR,
+        picker(tr2("ลูกค้า", "Customers"), QStringLiteral("TARNCode"), name, customers));
+    m_supplier = addBox("txtSupplier", tr2("ผู้จำหน่าย", "Supplier"), d.FilterAP,
+        picker(tr2("ผู้จำหน่าย", "Suppliers"), QStringLiteral("TAPNCode"), QStringLiteral("TAPNName") + nameSuffix(),
+            QStringLiteral("QD8TAP")));
+    m_employee = addBox("txtEmployee", d.FilterEmpLabel.isEmpty() ? QStringLiteral("พนักงานอ้างอิง") : d.FilterEmpLabel,
+        d.FilterEmployee,
+        picker(tr2("พนักงาน", "Employees"), QStringLiteral("TEmpCode"), QStringLiteral("TEmpFullName") + nameSuffix(),
+            QStringLiteral("QD8TEmployee")));
+
+    m_arrearOnly = nullptr;
+    m_invArrearOnly = nullptr;
+    if (!d.FilterArrear.isEmpty()) {
+        m_arrearOnly = new QCheckBox(d.FilterArrearCaption.isEmpty() ? tr2("ค้างเท่านั้น", "Outstanding only") : d.FilterArrearCaption, m_panel);
+        m_arrearOnly->setObjectName(QStringLiteral("chkArrearOnly"));
+        m_arrearOnly->setAccessibleName(m_arrearOnly->text());
+        m_grid->addWidget(m_arrearOnly, m_cell / PanelColumns, (m_cell % PanelColumns) * 2, 1, 2);
+        ++m_cell;
+    }
+    if (!d.FilterInvArrear.isEmpty()) {
+        m_invArrearOnly = new QCheckBox(
+            d.FilterInvArrearCaption.isEmpty() ? tr2("ค้างออกใบแจ้งหนี้", "Not invoiced only") : d.FilterInvArrearCaption, m_panel);
+        m_invArrearOnly->setObjectName(QStringLiteral("chkInvArrearOnly"));
+        m_invArrearOnly->setAccessibleName(m_invArrearOnly->text());
+        m_grid->addWidget(m_invArrearOnly, m_cell / PanelColumns, (m_cell % PanelColumns) * 2, 1, 2);
+        ++m_cell;
+    }
+
+    const QString dateCaption = d.FilterDateCaption.isEmpty() ? d.FilterDate : d.FilterDateCaption;
+    m_date2From = d.FilterDate.isEmpty() ? nullptr : addDateBox("txtDate2From", dateCaption + tr2(" จาก", " from"));
+    m_date2To = d.FilterDate.isEmpty() ? nullptr : addDateBox("txtDate2To", dateCaption + tr2(" ถึง", " to"));
+    m_division = addBox("txtDivision", tr2("ฝ่าย", "Division"), d.FilterDivision,
+        picker(tr2("ฝ่าย", "Divisions"), QStringLiteral("TDivCode"), QStringLiteral("TDivName") + nameSuffix(),
+            QStringLiteral("QD8TDivision")));
+    const QString filter1Field = filter1KeyField();
+    m_filter1 = addBox("txtFilter1", filter1Caption(), filter1Field.isEmpty() ? QString() : d.Filter1,
+        [this](QLineEdit* box) {
+            const QString code = pickFromQuickForm(m_def.Filter1);
+            if (!code.isEmpty()) {
+                box->setText(code);
+                SendKeys(QStringLiteral("{TAB}"));
+            }
+        });
+    m_project = addBox("txtProject", tr2("โครงการ", "Project"), m_projectFilterOn ? d.FilterProject : QString(),
+        picker(tr2("โครงการ", "Projects"), QStringLiteral("TPrjCode"), QStringLiteral("TPrjName") + nameSuffix(),
+            QStringLiteral("QD8TProject")));
+    if (m_project) {
+        m_project->setText(m_defaultProject);
+        m_project->setReadOnly(m_projectLevel > 0 && !m_defaultProject.isEmpty());  // bound to his project
+    }
+    const bool program = d.FilterProductM != 0;
+    m_product = addBox("txtProduct", program ? QStringLiteral("โปรแกรม") : tr2("สินค้า", "Product"), d.FilterProduct,
+        picker(program ? QStringLiteral("โปรแกรม") : tr2("สินค้า", "Products"), QStringLiteral("TPdtCode"), QStringLiteral("TPdtName"),
+            program ? QStringLiteral("QD8TProduct WHERE TPdtTPTTCode='PROGRAM'") : QStringLiteral("QD8TProduct")));
+    struct GroupList { const char* caption; const char* key; const char* name; const char* table; };
+    static const GroupList groups[] = {{"หมวด", "TPSECode", "TPSEName", "QD8TProductSection"},
+        {"กลุ่ม", "TPG1Code", "TPG1Name", "QD8TProductGroup"}, {"สาย", "TPDLCode", "TPDLName", "QD8TProductLine"}};
+    const GroupList& group = groups[qBound(0, d.FilterProductT, 2)];
+    m_productGroup = addBox("txtProductGroup", QString::fromUtf8(group.caption), d.FilterProductG,
+        picker(QString::fromUtf8(group.caption), QString::fromLatin1(group.key), QString::fromLatin1(group.name),
+            QString::fromLatin1(group.table)));
+    m_filter2 = addBox("txtFilter2", d.Filter2Caption.isEmpty() ? d.FILTER2 : d.Filter2Caption, d.FILTER2);
+    m_filter3 = addBox("txtFilter3", d.Filter3Caption.isEmpty() ? d.FILTER3 : d.Filter3Caption, d.FILTER3);
+    m_branch = addBox("txtBranch", tr2("สาขา", "Branch"), Prefix().isEmpty() ? QString() : Prefix() + QStringLiteral("TBraCode"),
+        picker(tr2("สาขา", "Branches"), QStringLiteral("TBraCode"), QStringLiteral("TBraName") + nameSuffix(),
+            QStringLiteral("QD8TBranch")));
+
+    QStringList sortCaptions = splitList(d.OrderList);
+    m_sort = sortCaptions.isEmpty() ? nullptr : addCombo("cboSort", tr2("เรียงตาม", "Sort by"), sortCaptions, d.DefaultOrder);
+
+    auto* selectButton = new QPushButton(tr2("เลือก", "Select"), m_panel);
+    selectButton->setObjectName(QStringLiteral("cmdSelect"));
+    selectButton->setAccessibleName(selectButton->text());
+    connect(selectButton, &QPushButton::clicked, this, &DucumentList::select);
+    m_grid->addWidget(selectButton, m_cell / PanelColumns, (m_cell % PanelColumns) * 2, 1, 2);
+    ++m_cell;
+    applyBackDays();
+}
+
+QLineEdit* DucumentList::addBox(const char* name, const QString& caption, const QString& field, std::function<void(QLineEdit*)> pick)
+{
+    if (field.isEmpty())
+        return nullptr;
+    auto* label = new QLabel(caption, m_panel);
+    auto* box = new QLineEdit(m_panel);
+    box->setObjectName(QString::fromLatin1(name));
+    box->setAccessibleName(caption);
+    label->setBuddy(box);
+    if (pick) {
+        box->setToolTip(tr2("F2 เลือกจากรายการ", "F2 picks from a list"));
+        m_pickers.insert(box, pick);
+        box->installEventFilter(this);
+    }
+    connect(box, &QLineEdit::returnPressed, this, &DucumentList::select);
+    m_grid->addWidget(label, m_cell / PanelColumns, (m_cell % PanelColumns) * 2);
+    m_grid->addWidget(box, m_cell / PanelColumns, (m_cell % PanelColumns) * 2 + 1);
+    ++m_cell;
+    return box;
+}
+
+QLineEdit* DucumentList::addDateBox(const char* name, const QString& caption)
+{
+    QLineEdit* box = addBox(name, caption, QStringLiteral("date"));
+    box->setPlaceholderText(QStringLiteral("dd/mm/yyyy"));
+    box->setMaxLength(10);
+    return box;
+}
+
+QComboBox* DucumentList::addCombo(const char* name, const QString& caption, const QStringList& captions, int current)
+{
+    auto* label = new QLabel(caption, m_panel);
+    auto* combo = new QComboBox(m_panel);
+    combo->setObjectName(QString::fromLatin1(name));
+    combo->setAccessibleName(caption);
+    combo->addItems(captions);
+    combo->setCurrentIndex(current >= 0 && current < captions.size() ? current : 0);
+    label->setBuddy(combo);
+    m_grid->addWidget(label, m_cell / PanelColumns, (m_cell % PanelColumns) * 2);
+    m_grid->addWidget(combo, m_cell / PanelColumns, (m_cell % PanelColumns) * 2 + 1);
+    ++m_cell;
+    return combo;
+}
+
+void DucumentList::applyBackDays()
+{
+    if (!m_backDays)
+        return;
+    const int days = splitList(m_def.BACKDAYLIST).value(m_backDays->currentIndex()).trimmed().toInt();
+    m_dateFrom->setText(days > 0 ? QDate::currentDate().addDays(-days).toString(QStringLiteral("dd/MM/yyyy")) : QString());
+    m_dateTo->clear();
+}
+
+QString DucumentList::badDate() const
+{
+    for (const QLineEdit* box : {m_dateFrom, m_dateTo, m_deliveryDate, m_date2From, m_date2To}) {
+        const QString text = boxText(box);
+        if (!text.isEmpty() && !boxDate(text).isValid())
+            return box->accessibleName() + QStringLiteral(": ") + text;
+    }
+    return {};
+}
+
+void DucumentList::select()
+{
+    const QString bad = badDate();
+    if (!bad.isEmpty()) {
+        Services::messages().information(LCaption(), tr2("วันที่ไม่ถูกต้อง (วว/ดด/ปปปป) ", "Not a date (dd/mm/yyyy) ") + bad);
+        return;
+    }
+    runQuery();
+}
+
+bool DucumentList::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_F2) {
+        const auto pick = m_pickers.value(watched);
+        if (pick) {
+            pick(static_cast<QLineEdit*>(watched));
+            return true;
+        }
+    }
+    return ListControl::eventFilter(watched, event);
+}
+
+} // namespace qd8

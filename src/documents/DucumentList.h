@@ -1,0 +1,138 @@
+#pragma once
+
+#include "documents/ListControl.h"
+
+#include <QHash>
+#include <functional>
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QLineEdit;
+
+namespace qd8 {
+
+// The list of a document module's documents (purchase requests, orders, invoices, stock
+// issues ...), defined by the list-definition row of its command: which columns, which
+// filters, which legend and which document form. The filter panel composes the WHERE
+// text; the select button, Enter in a box and the auto-refresh timer read the rows again.
+class DucumentList : public ListControl {
+    Q_OBJECT
+    Q_PROPERTY(QString OrderQuery READ OrderQuery WRITE setOrderQuery)
+    Q_PROPERTY(QString OrderList READ OrderList WRITE setOrderList)
+    Q_PROPERTY(int DefaultOrder READ DefaultOrder WRITE setDefaultOrder)
+    Q_PROPERTY(QString BACKDAYLIST READ BACKDAYLIST WRITE setBACKDAYLIST)
+    Q_PROPERTY(QString FILTER2 READ FILTER2 WRITE setFILTER2)
+    Q_PROPERTY(QString FILTER3 READ FILTER3 WRITE setFILTER3)
+    Q_PROPERTY(QString FilterEmployee READ FilterEmployee WRITE setFilterEmployee)
+    Q_PROPERTY(QString FilterAR READ FilterAR WRITE setFilterAR)
+    Q_PROPERTY(int FilterARByEmp READ FilterARByEmp WRITE setFilterARByEmp)
+    Q_PROPERTY(QString FilterAP READ FilterAP WRITE setFilterAP)
+    Q_PROPERTY(QString FilterDivision READ FilterDivision WRITE setFilterDivision)
+    Q_PROPERTY(QString FilterProject READ FilterProject WRITE setFilterProject)
+    Q_PROPERTY(QString FilterProduct READ FilterProduct WRITE setFilterProduct)
+    Q_PROPERTY(int FilterProductM READ FilterProductM WRITE setFilterProductM)
+    Q_PROPERTY(QString FilterProductG READ FilterProductG WRITE setFilterProductG)
+    Q_PROPERTY(int FilterProductT READ FilterProductT WRITE setFilterProductT)
+    Q_PROPERTY(QString FilterDeliveryDate READ FilterDeliveryDate WRITE setFilterDeliveryDate)
+    Q_PROPERTY(QString FilterArrear READ FilterArrear WRITE setFilterArrear)
+    Q_PROPERTY(QString FilterInvArrear READ FilterInvArrear WRITE setFilterInvArrear)
+    Q_PROPERTY(QString FilterStatus READ FilterStatus WRITE setFilterStatus)
+    Q_PROPERTY(QString FilterStatus2 READ FilterStatus2 WRITE setFilterStatus2)
+    Q_PROPERTY(QString FilterDate READ FilterDate WRITE setFilterDate)
+
+public:
+    explicit DucumentList(QWidget* parent = nullptr);
+    ~DucumentList() override;
+
+    QD8_LIST_TEXT(OrderQuery, m_def.OrderQuery)
+    QD8_LIST_TEXT(OrderList, m_def.OrderList)
+    QD8_LIST_NUMBER(DefaultOrder, m_def.DefaultOrder)
+    QD8_LIST_TEXT(BACKDAYLIST, m_def.BACKDAYLIST)
+    QD8_LIST_TEXT(FILTER2, m_def.FILTER2)
+    QD8_LIST_TEXT(FILTER3, m_def.FILTER3)
+    QD8_LIST_TEXT(FilterEmployee, m_def.FilterEmployee)
+    QD8_LIST_TEXT(FilterAR, m_def.FilterAR)
+    QD8_LIST_NUMBER(FilterARByEmp, m_def.FilterARByEmp)
+    QD8_LIST_TEXT(FilterAP, m_def.FilterAP)
+    QD8_LIST_TEXT(FilterDivision, m_def.FilterDivision)
+    QD8_LIST_TEXT(FilterProject, m_def.FilterProject)
+    QD8_LIST_TEXT(FilterProduct, m_def.FilterProduct)
+    QD8_LIST_NUMBER(FilterProductM, m_def.FilterProductM)
+    QD8_LIST_TEXT(FilterProductG, m_def.FilterProductG)
+    QD8_LIST_NUMBER(FilterProductT, m_def.FilterProductT)
+    QD8_LIST_TEXT(FilterDeliveryDate, m_def.FilterDeliveryDate)
+    QD8_LIST_TEXT(FilterArrear, m_def.FilterArrear)
+    QD8_LIST_TEXT(FilterInvArrear, m_def.FilterInvArrear)
+    QD8_LIST_TEXT(FilterStatus, m_def.FilterStatus)
+    QD8_LIST_TEXT(FilterStatus2, m_def.FilterStatus2)
+    QD8_LIST_TEXT(FilterDate, m_def.FilterDate)
+
+    // SetFilter2 with the employee-type restriction applied.
+    void SetFilter(const QString& iCommandAlias, const QString& iCommandGroup, std::shared_ptr<DataObject> iDataObj,
+        std::shared_ptr<AppObject> iAppObj, std::shared_ptr<ClientObject> iClientObj, FormCollection* iForms,
+        const QString& iLCaption, const QString& iFCaption);
+    // Loads the definition of the command, builds the filter panel and reads the rows.
+    void SetFilter2(const QString& iCommandAlias, const QString& iCommandGroup, std::shared_ptr<DataObject> iDataObj,
+        std::shared_ptr<AppObject> iAppObj, std::shared_ptr<ClientObject> iClientObj, FormCollection* iForms,
+        const QString& iLCaption, const QString& iFCaption, bool iDoFilterEmployee);
+
+    // The condition a status code adds for the column prefix; codes "8".."10" take their
+    // condition from `customConditions`. "7" and unknown codes add nothing.
+    static QString statusCondition(const QString& code, const QString& prefix, const QStringList& customConditions);
+
+protected:
+    Sql composeWhere() override;
+    QString composeOrder() const override;
+    QString loadingCaption() const override;
+    bool mayEdit(const QString& key) override;
+    QStringList keyMembers(bool adding) const override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void readSessionChoices();
+    void buildPanel();
+    QLineEdit* addBox(const char* name, const QString& caption, const QString& field,
+        std::function<void(QLineEdit*)> pick = {});
+    QLineEdit* addDateBox(const char* name, const QString& caption);
+    QComboBox* addCombo(const char* name, const QString& caption, const QStringList& captions, int current);
+    void applyBackDays();
+    void select();
+    // A bad date in a filled date box, named for the message; "" when all are dates or blank.
+    QString badDate() const;
+
+    bool m_doFilterEmployee = true;
+    int m_hrFilter = 0;
+    bool m_projectFilterOn = false;
+    QString m_defaultProject;
+    QStringList m_statusCodes;
+
+    QWidget* m_panel = nullptr;
+    QGridLayout* m_grid = nullptr;
+    int m_cell = 0;
+    QComboBox* m_status = nullptr;
+    QComboBox* m_status2 = nullptr;
+    QComboBox* m_backDays = nullptr;
+    QComboBox* m_sort = nullptr;
+    QLineEdit* m_dateFrom = nullptr;
+    QLineEdit* m_dateTo = nullptr;
+    QLineEdit* m_deliveryDate = nullptr;
+    QLineEdit* m_customer = nullptr;
+    QLineEdit* m_supplier = nullptr;
+    QLineEdit* m_employee = nullptr;
+    QCheckBox* m_arrearOnly = nullptr;
+    QCheckBox* m_invArrearOnly = nullptr;
+    QLineEdit* m_date2From = nullptr;
+    QLineEdit* m_date2To = nullptr;
+    QLineEdit* m_division = nullptr;
+    QLineEdit* m_filter1 = nullptr;
+    QLineEdit* m_project = nullptr;
+    QLineEdit* m_product = nullptr;
+    QLineEdit* m_productGroup = nullptr;
+    QLineEdit* m_filter2 = nullptr;
+    QLineEdit* m_filter3 = nullptr;
+    QLineEdit* m_branch = nullptr;
+    QHash<QObject*, std::function<void(QLineEdit*)>> m_pickers;
+};
+
+} // namespace qd8
