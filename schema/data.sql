@@ -553,6 +553,8 @@ CREATE TABLE QD8TUnit (
 CREATE UNIQUE INDEX QD8XUnitCode ON QD8TUnit (TUntCode);
 
 -- TPdtTPTTCode is the product type ('PROGRAM' for the program filter).
+-- TPdtCost is the standard cost, shown only to users with the right
+-- ICINVENTORYCOST.
 CREATE TABLE QD8TProduct (
     TPdtCode VARCHAR(30) NOT NULL,
     TPdtName VARCHAR(200) COLLATE THAI,
@@ -563,6 +565,7 @@ CREATE TABLE QD8TProduct (
     TPdtTPS2Code VARCHAR(20),
     TPdtTPG1Code VARCHAR(20),
     TPdtTUntCode VARCHAR(20),
+    TPdtCost NUMERIC(19,4) DEFAULT 0,
     TPdtActiveStatus INTEGER DEFAULT 1,
     TPdtFlag1 INTEGER DEFAULT 1,
     PRIMARY KEY (TPdtCode)
@@ -869,8 +872,10 @@ INNER JOIN QD8TJobSub m ON m.TJbMTJobNo = h.TJPDTJobNo AND m.TJbMLn = h.TJPDTJbM
 LEFT JOIN QD8TMRPStepName n ON l.TJPMTSepCode = n.TSepCode
 LEFT JOIN QD8TProject p ON j.TJobTPrjCode = p.TPrjCode;
 
--- Inventory documents (receipts, issues, transfers). The job columns hold
--- the job selector's choice for the document.
+-- Inventory documents (receipts, issues, transfers), told apart by their
+-- document code TInvTCodAlias. TInvTEmpCode is the employee who receives the
+-- goods of an issue. The job columns hold the job selector's choice for the
+-- document.
 CREATE TABLE QD8TInventory (
     TInvNo VARCHAR(30) NOT NULL,
     TInvDate DATE,
@@ -880,6 +885,7 @@ CREATE TABLE QD8TInventory (
     TInvRefNo VARCHAR(30),
     TInvDescription VARCHAR(500) COLLATE THAI,
     TInvTPrjCode VARCHAR(20),
+    TInvTEmpCode VARCHAR(20),
     TInvTJobNo VARCHAR(30),
     TInvTJbMLn INTEGER,
     TInvTJstLn INTEGER,
@@ -911,6 +917,7 @@ CREATE TABLE QD8TInventory (
 CREATE INDEX QD8XInventoryDate ON QD8TInventory (TInvDate);
 
 -- Purchase requests: header and lines. A line may be requested for a job line.
+-- TPRDTDivCode/TPRDTDepCode: the division and department that ask.
 CREATE TABLE QD8TPR (
     TPRDNo VARCHAR(30) NOT NULL,
     TPRDDate DATE,
@@ -918,6 +925,7 @@ CREATE TABLE QD8TPR (
     TPRDTPrjCode VARCHAR(20),
     TPRDTBraCode VARCHAR(20),
     TPRDTDivCode VARCHAR(20),
+    TPRDTDepCode VARCHAR(20),
     TPRDTEmpCode VARCHAR(20),
     TPRDRefNo VARCHAR(30),
     TPRDDescription VARCHAR(500) COLLATE THAI,
@@ -987,6 +995,54 @@ FROM QD8TPR h
 INNER JOIN QD8TPRSub l ON l.TPRMTPRDNo = h.TPRDNo
 LEFT JOIN QD8TJob j ON l.TPRMTJobNo = j.TJobNo
 LEFT JOIN QD8TProject p ON h.TPRDTPrjCode = p.TPrjCode;
+
+-- Purchase orders to suppliers. TPODRefNo is the purchase request the order
+-- was made from, TPODBillStatus 1 once the supplier's invoice is recorded.
+CREATE TABLE QD8TPO (
+    TPODNo VARCHAR(30) NOT NULL,
+    TPODDate DATE,
+    TPODDueDate DATE,
+    TPODTAPNCode VARCHAR(20),
+    TPODTBraCode VARCHAR(20),
+    TPODTPrjCode VARCHAR(20),
+    TPODRefNo VARCHAR(30),
+    TPODDescription VARCHAR(500) COLLATE THAI,
+    TPODTotalAmount NUMERIC(19,4) DEFAULT 0,
+    TPODBillStatus INTEGER DEFAULT 0,
+    TPODCreateBy VARCHAR(50),
+    TPODCreateDate TIMESTAMP,
+    TPODEditCode VARCHAR(50),
+    TPODEditBy VARCHAR(50),
+    TPODEditDate TIMESTAMP,
+    TPODRevision INTEGER DEFAULT 0,
+    TPODConfirmStatus INTEGER DEFAULT 0,
+    TPODConfirmDate TIMESTAMP,
+    TPODConfirmBy VARCHAR(50),
+    TPODApproveStatus INTEGER DEFAULT 0,
+    TPODApproveDate TIMESTAMP,
+    TPODApproveBy VARCHAR(50),
+    TPODApproveNote VARCHAR(500),
+    TPODCancelStatus INTEGER DEFAULT 0,
+    TPODCancelDate TIMESTAMP,
+    TPODCancelBy VARCHAR(50),
+    TPODCancelNote VARCHAR(500),
+    TPODReviseStatus INTEGER DEFAULT 0,
+    TPODReviseBy VARCHAR(50),
+    PRIMARY KEY (TPODNo)
+);
+CREATE INDEX QD8XPODate ON QD8TPO (TPODDate);
+CREATE INDEX QD8XPOSupplier ON QD8TPO (TPODTAPNCode, TPODDate);
+
+-- The supplier's acknowledgement of a purchase order (one row per order, none
+-- until the supplier answers). TPO2Acknowledge 1: acknowledged, read by the
+-- arrival alerts of the purchase-order list.
+CREATE TABLE QD8TPO2 (
+    TPO2TPODNo VARCHAR(30) NOT NULL,
+    TPO2Acknowledge INTEGER DEFAULT 0,
+    TPO2AckDate TIMESTAMP,
+    TPO2AckBy VARCHAR(200) COLLATE THAI,
+    PRIMARY KEY (TPO2TPODNo)
+);
 
 -- Sales documents: header and lines. TSOType tells the kind of sales
 -- document (2: a repair/service order, whose TInvTJobNo holds the point-usage

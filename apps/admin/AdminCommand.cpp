@@ -1,4 +1,5 @@
 #include "AdminCommand.h"
+#include "DocumentGenerator.h"
 #include "SampleFiles.h"
 
 #include "database/Schema.h"
@@ -25,7 +26,7 @@ QString option(const QStringList& arguments, const QString& name)
 // The arguments that are neither options nor the value of an option.
 QStringList positionalArguments(const QStringList& arguments)
 {
-    static const QStringList withValue = {"--app", "--center", "--data", "--files", "--role"};
+    static const QStringList withValue = {"--app", "--center", "--data", "--files", "--role", "--rows", "--list"};
     QStringList positional;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         if (withValue.contains(arguments[i]))
@@ -50,7 +51,11 @@ int AdminCommand::usage()
              "      created when missing); the files of the installation go to DIR when given\n"
              "  --force replaces databases and files that exist\n"
              "  qd8-admin check CONN [--role app|center|data]\n"
-             "      reports the tables, views and columns the database lacks\n";
+             "      reports the tables, views and columns the database lacks\n"
+             "  qd8-admin generate documents --rows N [--list ALIAS] (DIR | --data CONN)\n"
+             "      adds N made-up documents to the table of a document list (default PURPR) in the\n"
+             "      company data database QD8Data.dat of DIR, or in the one CONN names; lists: "
+          << DocumentGenerator::listAliases().join(QStringLiteral(", ")) << "\n";
     m_err.flush();
     return 2;
 }
@@ -64,6 +69,8 @@ int AdminCommand::run(const QStringList& arguments)
             return init(arguments.mid(1));
         if (arguments[0] == QLatin1String("check"))
             return check(arguments.mid(1));
+        if (arguments[0] == QLatin1String("generate"))
+            return generate(arguments.mid(1));
     } catch (const DbError& e) {
         m_err << "qd8-admin: " << e.message() << '\n';
         if (!e.statement().isEmpty())
@@ -214,6 +221,56 @@ int AdminCommand::check(const QStringList& arguments)
           << " database are missing or incomplete\n";
     m_out.flush();
     return problems.isEmpty() ? 0 : 1;
+}
+
+int AdminCommand::refuse(const QString& message)
+{
+    m_err << "qd8-admin generate: " << message << '\n';
+    m_err.flush();
+    return 2;
+}
+
+int AdminCommand::generate(const QStringList& arguments)
+{
+    // Every argument is checked before a database is opened.
+    const QStringList positional = positionalArguments(arguments);
+    if (positional.value(0) != QLatin1String("documents"))
+        return usage();
+    if (!arguments.contains(QLatin1String("--rows")))
+        return refuse(QStringLiteral("--rows N is missing: how many documents to add"));
+    const QString rowsText = option(arguments, QStringLiteral("--rows"));
+    bool isNumber = false;
+    const qint64 rows = rowsText.toLongLong(&isNumber);
+    if (!isNumber || rows <= 0)
+        return refuse(QStringLiteral("--rows needs a whole number of documents above 0, not \"%1\"").arg(rowsText));
+    const QString list = arguments.contains(QLatin1String("--list")) ? option(arguments, QStringLiteral("--list"))
+                                                                      : QStringLiteral("PURPR");
+    if (DocumentGenerator::tableOf(list).isEmpty())
+        return refuse(QStringLiteral("no document list \"%1\" to fill; the lists are %2")
+                          .arg(list, DocumentGenerator::listAliases().join(QStringLiteral(", "))));
+    const QString dataOption = option(arguments, QStringLiteral("--data"));
+    const bool byConnection = arguments.contains(QLatin1String("--data"));
+    if (byConnection ? dataOption.isEmpty() || positional.size() != 1 : positional.size() != 2)
+        return usage();
+    QString cs = dataOption;
+    if (!byConnection) {
+        const QString file = QDir(positional[1]).absoluteFilePath(Schema::fileName(DatabaseRole::CompanyData));
+        if (!QFileInfo::exists(file)) {
+            m_err << "qd8-admin generate: " << QDir::toNativeSeparators(file)
+                  << " does not exist (qd8-admin init creates it)\n";
+            m_err.flush();
+            return 1;
+        }
+        cs = QStringLiteral("Driver=SQLite;Data Source=%1").arg(file);
+    }
+    QElapsedTimer timer;
+    timer.start();
+    const auto outcome = DocumentGenerator(cs).generate(list, rows);
+    ConnectionPool::instance().clear(cs);
+    m_out << "generated " << outcome.rows << " rows in " << outcome.table << " in "
+          << QString::number(timer.elapsed() / 1000.0, 'f', 1) << " s (" << outcome.firstNo << " to " << outcome.lastNo << ")\n";
+    m_out.flush();
+    return 0;
 }
 
 } // namespace qd8

@@ -2,12 +2,19 @@
 #include "support/SampleCompany.h"
 
 #include "database/Schema.h"
+#include "documents/DucumentList.h"
+#include "documents/ListDefinition.h"
+#include "foundation/CommaList.h"
 #include "foundation/Connection.h"
+#include "foundation/ConnectionPool.h"
+#include "foundation/DbError.h"
 #include "foundation/Recordset.h"
 #include "navigation/OemSettings.h"
 
+#include <QColor>
 #include <QCoreApplication>
 #include <QDir>
+#include <QHash>
 #include <QImageReader>
 #include <QProcess>
 #include <QSet>
@@ -193,5 +200,373 @@ TEST(SampleFiles, ThePostgresFormWritesTheFilesWhereItIsTold)
     for (const QString& name : names)
         server.execute(Sql(QStringLiteral("DROP DATABASE IF EXISTS \"%1\" WITH (FORCE)").arg(name)));
 }
+
+// A row of the list definitions, every column as text under its lower-case name.
+class Definition {
+public:
+    explicit Definition(const Recordset& rs)
+    {
+        for (int f = 0; f < rs.fieldCount(); ++f)
+            m_columns.insert(rs.fieldName(f).toLower(), rs.text(rs.fieldName(f)));
+    }
+    QString operator[](const char* column) const { return m_columns.value(QString::fromLatin1(column).toLower()); }
+    QStringList list(const char* column) const { return splitList((*this)[column]); }
+    QString alias() const { return (*this)["TFDLTCmdAlias"]; }
+    bool isMaster() const { return (*this)["TFDLFormDetail"].startsWith(QLatin1String("MASTER")); }
+
+private:
+    QHash<QString, QString> m_columns;
+};
+
+const QStringList DocumentForms = {"DOCPR", "DOCPO", "DOCSO", "DOCINVOICE", "DOCISSUE"};
+const QStringList MasterForms = {"MASTERCUSTOMER", "MASTERPRODUCT", "MASTERSUPPLIER"};
+const QStringList LegendKeywords = {"IS NULL", "IS NOT NULL", "=", "<>", ">", "<", ">=", "<=", "D=", "D<>", "D>", "D<",
+    "D>=", "D<=", "T=", "T<>", "T>", "T<", "T>=", "T<=", "BF1", "BF2", "PODUEDATE", "TPO2Acknowledge", "SODUEDATE"};
+
+class SampleListsTest : public SampleCompanyTest {
+protected:
+    void SetUp() override
+    {
+        SampleCompanyTest::SetUp();
+        if (IsSkipped())
+            return;
+        app.open(appConnectionString());
+        data.open(dataConnectionString());
+        Recordset rs;
+        rs.open(Sql("SELECT * FROM QD8TFormDocList ORDER BY TFDLTCmdAlias"), app);
+        for (; !rs.eof(); rs.moveNext())
+            definitions.append(Definition(rs));
+    }
+    void TearDown() override
+    {
+        app.close();
+        data.close();
+        SampleCompanyTest::TearDown();
+    }
+
+    QString lookup(const QString& sql)
+    {
+        Recordset rs;
+        rs.open(Sql(sql), app);
+        return rs.eof() ? QString() : rs.text(rs.fieldName(0));
+    }
+    // The key field as the lists take it: from the document code when the list names one.
+    QString keyOf(const Definition& d)
+    {
+        if (!d["TFDLTCodAlias"].isEmpty())
+            return lookup(QStringLiteral("SELECT TCodPrimaryKey FROM QD8TCode WHERE TCodAlias='%1'").arg(d["TFDLTCodAlias"]));
+        return d.list("TFDLPrimaryKeyList").value(0).trimmed();
+    }
+    QString prefixOf(const Definition& d)
+    {
+        const QString key = keyOf(d);
+        return key.endsWith(QLatin1String("No")) ? key.chopped(2) : QString();
+    }
+    // The rows a list shows with an extra condition; -1 and a failure when the text does not run.
+    qint64 count(const Definition& d, const QString& condition)
+    {
+        const QString sql = QStringLiteral("SELECT COUNT(*) FROM %1 WHERE %2<>''%3%4")
+                                .arg(d["TFDLQuery"], keyOf(d), condition, d["TFDLFilterCustomW"]);
+        try {
+            Recordset rs;
+            rs.open(Sql(sql), data);
+            return rs.field(0).toLongLong();
+        } catch (const DbError& e) {
+            ADD_FAILURE() << sql.toStdString() << ": " << e.message().toStdString();
+            return -1;
+        }
+    }
+    void expectRuns(const QString& sql)
+    {
+        try {
+            Recordset rs;
+            rs.open(Sql(sql), data);
+        } catch (const DbError& e) {
+            ADD_FAILURE() << sql.toStdString() << ": " << e.message().toStdString();
+        }
+    }
+
+    Connection app, data;
+    QList<Definition> definitions;
+};
+
+TEST_P(SampleListsTest, EveryListCommandHasADefinitionAndTheVariantHasItsOption)
+{
+    QStringList aliases;
+    for (const Definition& d : definitions)
+        aliases << d.alias();
+    for (const char* alias : {"PURPR", "PURPRMB", "PUPO", "SOORDER", "ARINVOICE", "ICISSUEUSE", "ARCUSTOMER", "ICPRODUCT", "APVENDOR"})
+        EXPECT_TRUE(aliases.contains(QLatin1String(alias))) << alias;
+    for (const QString& alias : aliases) {
+        const bool command = !lookup(QStringLiteral("SELECT TCmdAlias FROM QD8TCommand WHERE TCmdAlias='%1'").arg(alias)).isEmpty();
+        // A variant is reached through the option <base>Menu of its base command.
+        const QString base = alias.endsWith(QLatin1String("MB")) ? alias.chopped(2) : QString();
+        EXPECT_TRUE(command || !base.isEmpty()) << alias.toStdString() << " is opened by no command";
+        if (!base.isEmpty())
+            EXPECT_EQ(lookup(QStringLiteral("SELECT TOptTOpGAlias FROM QD8TOption WHERE TOptAlias='%1Menu'").arg(base)), "DOCLIST")
+                << alias.toStdString();
+    }
+}
+
+TEST_P(SampleListsTest, ParallelListsMatchTheColumnsAndEveryFormIsOneTheWorkbenchOpens)
+{
+    for (const Definition& d : definitions) {
+        SCOPED_TRACE(d.alias().toStdString());
+        const int columns = d.list("TFDLColumnList").size();
+        ASSERT_GT(columns, 1);
+        for (const char* parallel : {"TFDLNameList", "TFDLNameList2", "TFDLWidthList", "TFDLTypeList"})
+            EXPECT_EQ(d.list(parallel).size(), columns) << parallel;
+        for (const QString& type : d.list("TFDLTypeList"))
+            EXPECT_TRUE(QStringList({"0", "1", "2", "3", "4"}).contains(type)) << type.toStdString();
+        for (QString width : d.list("TFDLWidthList")) {
+            bool number = false;
+            width.remove(QStringLiteral("{COST}")).toInt(&number);
+            EXPECT_TRUE(number) << width.toStdString();
+        }
+        EXPECT_TRUE((d.isMaster() ? MasterForms : DocumentForms).contains(d["TFDLFormDetail"])) << d["TFDLFormDetail"].toStdString();
+        EXPECT_EQ(d.list("TFDLOrderList").size(), d.list("TFDLOrderQuery").size());
+        EXPECT_LT(d["TFDLDefaultOrder"].toInt(), qMax<qsizetype>(1, d.list("TFDLOrderList").size()));
+        EXPECT_EQ(d.list("TFDLFilterStatus").size(), d.list("TFDLFilterStatusL").size());
+        EXPECT_LT(d["TFDLDefaultFilter"].toInt(), qMax<qsizetype>(d.isMaster() ? 3 : 1, d.list("TFDLFilterStatus").size()));
+        EXPECT_EQ(d.list("TFDLFilterStatus2").size(), d.list("TFDLFilterStatusL2").size());
+        EXPECT_EQ(d.list("TFDLFilterStatus2").size(), d.list("TFDLFilterCustom2").size());
+        if (d.isMaster())
+            continue;
+        EXPECT_FALSE(prefixOf(d).isEmpty()) << "the key of a document list ends in No";
+        EXPECT_FALSE(d.list("TFDLFilterStatus").isEmpty());
+        for (const QString& code : d.list("TFDLFilterStatus"))
+            EXPECT_TRUE(code.isEmpty() || (code.toInt() >= 0 && code.toInt() <= 10 && code == QString::number(code.toInt())))
+                << "status code " << code.toStdString();
+        EXPECT_EQ(d["TFDLFilterBackDate"], "1");
+        for (const QString& days : d.list("TFDLBACKDAYLIST")) {
+            bool number = false;
+            days.toInt(&number);
+            EXPECT_TRUE(number) << days.toStdString();
+        }
+    }
+}
+
+TEST_P(SampleListsTest, EveryQueryOrderFilterAndConditionRunsAndTheListsShowRows)
+{
+    for (const Definition& d : definitions) {
+        SCOPED_TRACE(d.alias().toStdString());
+        const QString from = d["TFDLQuery"];
+        const QString where = QStringLiteral(" WHERE %1<>''%2").arg(keyOf(d), d["TFDLFilterCustomW"]);
+        const QString select = QStringLiteral("SELECT %1 FROM %2%3").arg(d["TFDLColumnList"], from, where);
+        expectRuns(select);
+        for (const QString& order : d.list("TFDLOrderQuery"))
+            expectRuns(select + QStringLiteral(" ORDER BY ") + order);
+        EXPECT_GT(count(d, QString()), 0) << "the list shows no rows";
+        // Fields the filter boxes compare, the quick-form filter's among them.
+        QStringList fields;
+        for (const char* column : {"TFDLFilterAR", "TFDLFilterAP", "TFDLFilterEmployee", "TFDLFilterDivision", "TFDLFilterProject",
+                 "TFDLFilterProduct", "TFDLFilterProductG", "TFDLFilterDeliveryDate", "TFDLFilterDate", "TFDLFilter2",
+                 "TFDLFilter3", "TFDLFilter1W"})
+            if (!d[column].isEmpty())
+                fields << d[column];
+        if (!d["TFDLFilter1"].isEmpty() && d["TFDLFilter1W"].isEmpty()) {
+            const QString key = lookup(QStringLiteral("SELECT TQFmPKList FROM QD8TQuickForm WHERE TQFmAlias='%1'").arg(d["TFDLFilter1"]));
+            ASSERT_FALSE(key.isEmpty()) << "no quick form " << d["TFDLFilter1"].toStdString();
+            fields << ListDefinition::prefixOfKey(keyOf(d)) + splitList(key).value(0);
+        }
+        for (const QString& field : fields)
+            expectRuns(QStringLiteral("SELECT %1 FROM %2 WHERE 1=0").arg(field, from));
+        QStringList conditions = d.list("TFDLFilterCustom") + d.list("TFDLFilterCustom2");
+        for (const char* column : {"TFDLFilterArrear", "TFDLFilterInvArr"})
+            if (!d[column].isEmpty())
+                conditions << QStringLiteral(" AND ") + d[column];
+        for (const QString& condition : conditions)
+            EXPECT_GT(count(d, condition), 0) << condition.toStdString() << " holds for no document";
+    }
+}
+
+TEST_P(SampleListsTest, LegendsReadOnlyShownColumnsAndNameKnownKeywordsAndColours)
+{
+    for (const Definition& d : definitions) {
+        SCOPED_TRACE(d.alias().toStdString());
+        QStringList columns;
+        for (const QString& column : d.list("TFDLColumnList"))
+            columns << column.trimmed().toLower();
+        const QString p = prefixOf(d).toLower();
+        const QStringList entries = d.list("TFDLLegendList");
+        EXPECT_FALSE(entries.isEmpty());
+        for (const QString& entry : entries) {
+            SCOPED_TRACE(entry.toStdString());
+            const QStringList e = entry.split(QLatin1Char(';'));
+            ASSERT_GE(e.size(), 6);
+            const QString keyword = e[1];
+            EXPECT_TRUE(LegendKeywords.contains(keyword));
+            EXPECT_TRUE(columns.contains(e[0].toLower())) << "legend field not in the column list";
+            bool decimal = false;
+            e[3].toInt(&decimal);
+            EXPECT_TRUE(decimal || QColor(e[3]).isValid()) << "colour " << e[3].toStdString();
+            EXPECT_FALSE(e[5].isEmpty()) << "no caption";
+            QStringList read;
+            if ((keyword.startsWith(QLatin1Char('D')) || keyword.startsWith(QLatin1Char('T'))) && !e[4].isEmpty()
+                && keyword != QLatin1String("TPO2Acknowledge"))
+                read << e[4].toLower();
+            if (keyword == QLatin1String("BF1") || keyword == QLatin1String("BF2"))
+                read << p + "billstatus" << p + (keyword == QLatin1String("BF1") ? "duedate" : "date");
+            if (keyword.endsWith(QLatin1String("DUEDATE")) || keyword == QLatin1String("TPO2Acknowledge"))
+                read << p + "duedate";
+            if (keyword == QLatin1String("PODUEDATE") || keyword == QLatin1String("TPO2Acknowledge"))
+                read << QStringLiteral("tpo2acknowledge");
+            for (const QString& field : read)
+                EXPECT_TRUE(columns.contains(field)) << field.toStdString() << " is read but not in the column list";
+        }
+    }
+}
+
+TEST_P(SampleListsTest, EveryDocumentListHoldsDocumentsInEveryStatusAndDueDatesAroundToday)
+{
+    const QString today = dateMarker(QDate::currentDate());
+    const QString inAWeek = dateMarker(QDate::currentDate().addDays(7));
+    for (const Definition& d : definitions) {
+        if (d.isMaster())
+            continue;
+        SCOPED_TRACE(d.alias().toStdString());
+        const QString p = prefixOf(d);
+        for (int code = 0; code <= 6; ++code)
+            EXPECT_GT(count(d, DucumentList::statusCondition(QString::number(code), p, {})), 0) << "status " << code;
+        const QString open = QStringLiteral(" AND %1CancelStatus<>1").arg(p);
+        EXPECT_GT(count(d, open + QStringLiteral(" AND %1DueDate<%2").arg(p, today)), 0) << "nothing overdue";
+        EXPECT_GT(count(d, open + QStringLiteral(" AND %1DueDate>=%2 AND %1DueDate<=%3").arg(p, today, inAWeek)), 0)
+            << "nothing due within a week";
+        EXPECT_GT(count(d, QStringLiteral(" AND %1Date<%2").arg(p, dateMarker(QDate::currentDate().addDays(-365)))), 0)
+            << "nothing older than a year";
+    }
+}
+
+QD8_ON_BOTH_ENGINES(SampleListsTest);
+
+// A company made by qd8-admin init on the engine under test, and the arguments that name
+// its data database to qd8-admin.
+class GenerateDocumentsTest : public EngineTest {
+protected:
+    void SetUp() override
+    {
+        EngineTest::SetUp();
+        if (IsSkipped())
+            return;
+        QStringList init{QStringLiteral("init")};
+        if (engine() == Engine::SQLite) {
+            init << dir.path();
+            target = {dir.path()};
+            dataCs = QStringLiteral("Driver=SQLite;Data Source=") + dir.filePath(QStringLiteral("QD8Data.dat"));
+        } else {
+            const QString prefix = QStringLiteral("gen%1_").arg(QCoreApplication::applicationPid());
+            const char* const options[] = {"--app", "--center", "--data"};
+            const DatabaseRole roles[] = {DatabaseRole::Application, DatabaseRole::CommandCentre, DatabaseRole::CompanyData};
+            for (int i = 0; i < 3; ++i) {
+                names << prefix + Schema::fileName(roles[i]);
+                init << QLatin1String(options[i]) << QStringLiteral("Driver=PostgreSQL;Database=") + names.back();
+            }
+            init << QStringLiteral("--force");
+            dataCs = QStringLiteral("Driver=PostgreSQL;Database=") + names.back();
+            target = {QStringLiteral("--data"), dataCs};
+        }
+        QString output;
+        ASSERT_EQ(runAdmin(init, &output), 0) << output.toStdString();
+    }
+    void TearDown() override
+    {
+        ConnectionPool::instance().clear(dataCs);
+        if (names.isEmpty())
+            return;
+        Connection server;
+        server.open(ScratchDatabase::postgresAdminConnectionString());
+        for (const QString& name : names)
+            server.execute(Sql(QStringLiteral("DROP DATABASE IF EXISTS \"%1\" WITH (FORCE)").arg(name)));
+    }
+    int generate(const QStringList& arguments, QString* output)
+    {
+        return runAdmin(QStringList{QStringLiteral("generate"), QStringLiteral("documents")} + arguments + target, output);
+    }
+    qint64 number(const QString& sql)
+    {
+        Connection data;
+        data.open(dataCs);
+        Recordset rs;
+        rs.open(Sql(sql), data);
+        return rs.field(0).toLongLong();
+    }
+
+    QTemporaryDir dir;
+    QStringList names;
+    QStringList target;
+    QString dataCs;
+};
+
+TEST_P(GenerateDocumentsTest, AddsExactlyTheRowsAskedWithNewNumbersEveryStatusAndKnownCodes)
+{
+    const struct {
+        const char* list;
+        const char* table;
+        const char* prefix;
+    } cases[] = {{"PURPR", "QD8TPR", "TPRD"}, {"PUPO", "QD8TPO", "TPOD"}, {"SOORDER", "QD8TSO", "TSOD"},
+        {"ARINVOICE", "QD8TARInvoice", "TIvo"}, {"ICISSUEUSE", "QD8TInventory", "TInv"}};
+    const QString oldest = dateMarker(QDate::currentDate().addYears(-3));
+    const QString today = dateMarker(QDate::currentDate());
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.list);
+        const QString t = QLatin1String(c.table), p = QLatin1String(c.prefix);
+        const qint64 before = number(QStringLiteral("SELECT COUNT(*) FROM ") + t);
+        const qint64 rows = 240;
+        for (int run = 0; run < 2; ++run) {
+            QString output;
+            ASSERT_EQ(generate({QStringLiteral("--rows"), QString::number(rows), QStringLiteral("--list"), QLatin1String(c.list)}, &output), 0)
+                << output.toStdString();
+            EXPECT_TRUE(output.contains(QStringLiteral("generated %1 rows in %2").arg(rows).arg(t))) << output.toStdString();
+        }
+        EXPECT_EQ(number(QStringLiteral("SELECT COUNT(*) FROM ") + t), before + 2 * rows);
+        EXPECT_EQ(number(QStringLiteral("SELECT COUNT(DISTINCT %1No) FROM %2").arg(p, t)), before + 2 * rows);
+        const QString generated = QStringLiteral(" FROM %1 WHERE %2CreateDate IS NOT NULL AND %2RefNo LIKE 'REF-%'").arg(t, p);
+        EXPECT_EQ(number(QStringLiteral("SELECT COUNT(*)") + generated), 2 * rows);
+        for (int code = 0; code <= 6; ++code)
+            EXPECT_GT(number(QStringLiteral("SELECT COUNT(*)") + generated + DucumentList::statusCondition(QString::number(code), p, {})), 0)
+                << "status " << code;
+        EXPECT_EQ(number(QStringLiteral("SELECT COUNT(*)") + generated + QStringLiteral(" AND (%1Date<%2 OR %1Date>%3)").arg(p, oldest, today)), 0)
+            << "a date outside the last three years";
+        EXPECT_GT(number(QStringLiteral("SELECT COUNT(*)") + generated + QStringLiteral(" AND %1Date<%2").arg(p, dateMarker(QDate::currentDate().addYears(-2)))), 0)
+            << "dates do not spread back";
+        EXPECT_EQ(number(QStringLiteral("SELECT COUNT(*)") + generated
+                      + QStringLiteral(" AND %1TBraCode NOT IN (SELECT TBraCode FROM QD8TBranch)").arg(p)),
+            0)
+            << "a branch the company does not have";
+    }
+}
+
+TEST_P(GenerateDocumentsTest, BadArgumentsAreRefusedBeforeTheDatabaseIsTouched)
+{
+    const qint64 before = number(QStringLiteral("SELECT COUNT(*) FROM QD8TPR"));
+    const struct {
+        QStringList arguments;
+        const char* message;
+    } cases[] = {
+        {{"--rows", "abc"}, "--rows"},
+        {{"--rows", "-5"}, "--rows"},
+        {{"--rows", "0"}, "--rows"},
+        {{"--rows", "1.5"}, "--rows"},
+        {{"--list", "PURPR"}, "--rows"},
+        {{"--rows", "10", "--list", "NOSUCHLIST"}, "no document list \"NOSUCHLIST\""},
+        {{"--rows", "10", "--list"}, "no document list"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.arguments.join(' ').toStdString());
+        QString output;
+        EXPECT_EQ(generate(c.arguments, &output), 2);
+        EXPECT_TRUE(output.contains(QLatin1String(c.message))) << output.toStdString();
+    }
+    EXPECT_EQ(number(QStringLiteral("SELECT COUNT(*) FROM QD8TPR")), before);
+
+    // Good arguments on a folder without a company neither create one nor succeed.
+    QTemporaryDir empty;
+    QString output;
+    EXPECT_EQ(runAdmin({"generate", "documents", "--rows", "5", empty.path()}, &output), 1) << output.toStdString();
+    EXPECT_FALSE(QFileInfo::exists(empty.filePath(QStringLiteral("QD8Data.dat"))));
+    EXPECT_EQ(runAdmin({"generate", "receipts", "--rows", "5", empty.path()}, &output), 2);
+}
+
+QD8_ON_BOTH_ENGINES(GenerateDocumentsTest);
 
 } // namespace
