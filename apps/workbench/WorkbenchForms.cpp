@@ -1,6 +1,9 @@
 #include "WorkbenchForms.h"
 
+#include "DocumentForm.h"
 #include "TableListForm.h"
+#include "documents/DucumentList.h"
+#include "documents/MasterList.h"
 #include "editors/QuickGrid.h"
 #include "widgets/FormRegistry.h"
 
@@ -11,6 +14,101 @@ namespace {
 void registerList(const QString& name, const TableListDefinition& definition)
 {
     FormRegistry::registerForm(name, [definition](QWidget* parent) { return new TableListForm(definition, parent); });
+}
+
+void registerDocument(const QString& name, const DocumentDefinition& definition)
+{
+    FormRegistry::registerForm(name, [definition](QWidget* parent) { return new DocumentForm(definition, parent); });
+}
+
+// A document header: number, date (today when added), due date, then the form's own fields,
+// reference, description and the workflow flags; the prefix names every column.
+DocumentDefinition document(const char* title, const char* title2, const char* table, const char* prefix, const char* number,
+    const QList<DocumentField>& fields)
+{
+    const QString stem = QString::fromLatin1(prefix);
+    const QString key = stem + QStringLiteral("No");
+    DocumentDefinition d{QString::fromUtf8(title), QString::fromUtf8(title2), QString::fromLatin1(table), key, QStringLiteral("เลขที่"),
+        QStringLiteral("No."), QString::fromLatin1(number), stem, {}, {}};
+    d.fields << DocumentField::date(stem + QStringLiteral("Date"), QStringLiteral("วันที่"), QStringLiteral("Date"))
+                    .mandatory()
+                    .startsAs(DocumentField::Initial::Today)
+             << DocumentField::date(stem + QStringLiteral("DueDate"), QStringLiteral("วันครบกำหนด"), QStringLiteral("Due Date"));
+    d.fields << fields;
+    d.fields << DocumentField::text(stem + QStringLiteral("RefNo"), QStringLiteral("เลขที่อ้างอิง"), QStringLiteral("Reference"))
+             << DocumentField::text(stem + QStringLiteral("Description"), QStringLiteral("รายละเอียด"), QStringLiteral("Description"));
+    return d.withWorkflowStatuses(stem);
+}
+
+DocumentDefinition master(const char* title, const char* title2, const char* table, const char* key, const QList<DocumentField>& fields)
+{
+    return {QString::fromUtf8(title), QString::fromUtf8(title2), QString::fromLatin1(table), QString::fromLatin1(key), QStringLiteral("รหัส"),
+        QStringLiteral("Code"), QString(), QString(), fields, {}};
+}
+
+void registerDocumentForms()
+{
+    using F = DocumentField;
+    registerDocument(QStringLiteral("DOCPR"),
+        document("ใบขอซื้อ", "Purchase Request", "QD8TPR", "TPRD", "PR",
+            {F::branch("TPRDTBraCode"), F::project("TPRDTPrjCode"), F::division("TPRDTDivCode"),
+                F::employee("TPRDTEmpCode", QStringLiteral("ผู้ขอซื้อ"), QStringLiteral("Requested By"))}));
+    registerDocument(QStringLiteral("DOCPO"),
+        document("ใบสั่งซื้อ", "Purchase Order", "QD8TPO", "TPOD", "PO",
+            {F::supplier("TPODTAPNCode").mandatory(), F::branch("TPODTBraCode"), F::project("TPODTPrjCode"),
+                F::money("TPODTotalAmount", QStringLiteral("ยอดรวม"), QStringLiteral("Total Amount")),
+                F::status("TPODBillStatus", QStringLiteral("รับใบแจ้งหนี้แล้ว"), QStringLiteral("Billed"))}));
+    registerDocument(QStringLiteral("DOCSO"),
+        document("ใบสั่งขาย", "Sales Order", "QD8TSO", "TSOD", "SO",
+            {F::customer("TSODTARNCode").mandatory(), F::text("TSODContactName", QStringLiteral("ผู้ติดต่อ"), QStringLiteral("Contact")),
+                F::branch("TSODTBraCode"), F::project("TSODTPrjCode"),
+                F::employee("TSODSaleCode", QStringLiteral("พนักงานขาย"), QStringLiteral("Salesperson")),
+                F::money("TSODTotalAmount", QStringLiteral("ยอดรวม"), QStringLiteral("Total Amount")),
+                F::status("TSODBillStatus", QStringLiteral("ออกใบแจ้งหนี้แล้ว"), QStringLiteral("Invoiced"))}));
+    DocumentDefinition invoice = document("ใบแจ้งหนี้", "Invoice", "QD8TARInvoice", "TIvo", "IV",
+        {F::customer("TIvoTARNCode").mandatory(), F::branch("TIvoTBraCode"),
+            F::money("TIvoAmount", QStringLiteral("จำนวนเงิน"), QStringLiteral("Amount")).mandatory(),
+            F::money("TIvoArrears", QStringLiteral("ยอดค้างชำระ"), QStringLiteral("Outstanding")).shownOnly()});
+    invoice.copiedOnAdd.insert(QStringLiteral("TIvoArrears"), QStringLiteral("TIvoAmount"));
+    registerDocument(QStringLiteral("DOCINVOICE"), invoice);
+    registerDocument(QStringLiteral("DOCISSUE"),
+        document("ใบเบิกสินค้า", "Goods Issue", "QD8TInventory", "TInv", "IS",
+            {F::branch("TInvTBraCode"), F::project("TInvTPrjCode"),
+                F::code("TInvTJobNo", QStringLiteral("ใบสั่งงาน"), QStringLiteral("Job"), QStringLiteral("QD8TJob"), QStringLiteral("TJobNo"),
+                    QStringLiteral("TJobDescription"))}));
+
+    registerDocument(QStringLiteral("MASTERCUSTOMER"),
+        master("ลูกค้า", "Customer", "QD8TAR", "TARNCode",
+            {F::text("TARNName", QStringLiteral("ชื่อ"), QStringLiteral("Name (Thai)")).mandatory(),
+                F::text("TARNName2", QStringLiteral("ชื่อภาษาอังกฤษ"), QStringLiteral("Name")),
+                F::text("TARNTaxID", QStringLiteral("เลขประจำตัวผู้เสียภาษี"), QStringLiteral("Tax ID")),
+                F::text("TARNAddress", QStringLiteral("ที่อยู่"), QStringLiteral("Address")),
+                F::text("TARNTelephone", QStringLiteral("โทรศัพท์"), QStringLiteral("Telephone")), F::branch("TARNTBraCode"),
+                F::number("TARNCreditDay", QStringLiteral("เครดิต (วัน)"), QStringLiteral("Credit Days")),
+                F::money("TARNCreditLimit", QStringLiteral("วงเงินเครดิต"), QStringLiteral("Credit Limit")),
+                F::status("TARNActiveStatus", QStringLiteral("ใช้งาน"), QStringLiteral("Active"))}));
+    registerDocument(QStringLiteral("MASTERPRODUCT"),
+        master("สินค้า", "Product", "QD8TProduct", "TPdtCode",
+            {F::text("TPdtName", QStringLiteral("ชื่อสินค้า"), QStringLiteral("Name (Thai)")).mandatory(),
+                F::text("TPdtName2", QStringLiteral("ชื่อภาษาอังกฤษ"), QStringLiteral("Name")),
+                F::code("TPdtTPDLCode", QStringLiteral("สายสินค้า"), QStringLiteral("Product Line"), QStringLiteral("QD8TProductLine"),
+                    QStringLiteral("TPDLCode"), QStringLiteral("TPDLName{N}")),
+                F::code("TPdtTPSECode", QStringLiteral("หมวดสินค้า"), QStringLiteral("Section"), QStringLiteral("QD8TProductSection"),
+                    QStringLiteral("TPSECode"), QStringLiteral("TPSEName{N}")),
+                F::code("TPdtTPG1Code", QStringLiteral("กลุ่มสินค้า"), QStringLiteral("Group"), QStringLiteral("QD8TProductGroup"),
+                    QStringLiteral("TPG1Code"), QStringLiteral("TPG1Name{N}")),
+                F::code("TPdtTUntCode", QStringLiteral("หน่วยนับ"), QStringLiteral("Unit"), QStringLiteral("QD8TUnit"), QStringLiteral("TUntCode"),
+                    QStringLiteral("TUntName{N}")),
+                F::status("TPdtActiveStatus", QStringLiteral("ใช้งาน"), QStringLiteral("Active"))}));
+    registerDocument(QStringLiteral("MASTERSUPPLIER"),
+        master("ผู้จำหน่าย", "Supplier", "QD8TAP", "TAPNCode",
+            {F::text("TAPNName", QStringLiteral("ชื่อ"), QStringLiteral("Name (Thai)")).mandatory(),
+                F::text("TAPNName2", QStringLiteral("ชื่อภาษาอังกฤษ"), QStringLiteral("Name")),
+                F::text("TAPNTaxID", QStringLiteral("เลขประจำตัวผู้เสียภาษี"), QStringLiteral("Tax ID")),
+                F::text("TAPNAddress", QStringLiteral("ที่อยู่"), QStringLiteral("Address")),
+                F::text("TAPNTelephone", QStringLiteral("โทรศัพท์"), QStringLiteral("Telephone")),
+                F::number("TAPNCreditDay", QStringLiteral("เครดิต (วัน)"), QStringLiteral("Credit Days")),
+                F::status("TAPNActiveStatus", QStringLiteral("ใช้งาน"), QStringLiteral("Active"))}));
 }
 
 } // namespace
@@ -41,6 +139,13 @@ void registerWorkbenchForms()
         {QStringLiteral("ผู้ใช้งาน"), QStringLiteral("Users"), false, QStringLiteral("TUsrID,TUsrLoginName,TUsrName{N},TUsrTEmpCode"),
             QStringLiteral("รหัส,ชื่อเข้าระบบ,ชื่อผู้ใช้,พนักงาน"), QStringLiteral("ID,Login,Name,Employee"), QStringLiteral("QD8TUser"),
             QStringLiteral("TUsrFlag1=1"), QStringLiteral("TUsrID"), QStringLiteral("TUsrLoginName,TUsrName,TUsrName2"), false});
+    // The lists of the document and master-data commands, by their definitions.
+    for (const char* alias : {"PURPR", "PUPO", "SOORDER", "ARINVOICE", "ICISSUEUSE"})
+        FormRegistry::registerForm(QString::fromLatin1(alias), [](QWidget* parent) { return new DucumentList(parent); });
+    for (const char* alias : {"ARCUSTOMER", "ICPRODUCT", "APVENDOR"})
+        FormRegistry::registerForm(QString::fromLatin1(alias), [](QWidget* parent) { return new MasterList(parent); });
+    // The document and master forms the lists open.
+    registerDocumentForms();
 }
 
 } // namespace qd8

@@ -7,6 +7,8 @@
 #include "database/PermissionObject.h"
 #include "database/SessionFunctions.h"
 #include "database/SessionServices.h"
+#include "documents/DucumentList.h"
+#include "documents/MasterList.h"
 #include "foundation/Connection.h"
 #include "foundation/ConnectionString.h"
 #include "foundation/DbError.h"
@@ -342,14 +344,8 @@ void WorkbenchWindow::openForm(const QString& formName, const Command& command)
         connectEvents(form);
         const int index = m_tabs->addTab(form, command.caption);
         m_tabs->setCurrentIndex(index);
-        if (auto* control = qobject_cast<HostedControl*>(form)) {
-            if (control->property("QuickGroup").isValid() && control->property("QuickGroup").toString().isEmpty())
-                control->setProperty("QuickGroup", command.group);
-            control->Refresh();
-            // Editors load their rows after listing what they offer.
-            if (control->metaObject()->indexOfSlot("FillData()") >= 0)
-                QMetaObject::invokeMethod(control, "FillData");
-        }
+        if (auto* control = qobject_cast<HostedControl*>(form))
+            loadControl(*control, command);
     } catch (const DbError& error) {
         delete form;
         showStatus(error.message());
@@ -361,6 +357,62 @@ void WorkbenchWindow::openForm(const QString& formName, const Command& command)
     }
     showStatus(text("เปิด %1", "Opened %1").arg(command.caption));
     Q_EMIT formOpened(command.alias);
+}
+
+void WorkbenchWindow::loadControl(HostedControl& control, const Command& command)
+{
+    const WorkbenchSession& s = m_session;
+    const auto objects = [&] {
+        return std::make_tuple(std::make_shared<DbDataObject>(s.dataConnectionString, s.appConnectionString, s.userId, s.loginName),
+            std::make_shared<SessionAppObject>(control.session()), std::make_shared<DbClientObject>(s.sessionConnectionString, s.userId));
+    };
+    if (auto* list = qobject_cast<DucumentList*>(&control)) {
+        auto [data, app, client] = objects();
+        list->SetFilter(command.alias, command.group, data, app, client, this, command.caption, command.caption);
+        return;
+    }
+    if (auto* list = qobject_cast<MasterList*>(&control)) {
+        auto [data, app, client] = objects();
+        list->SetFilter(command.alias, command.group, data, app, client, this, command.caption, command.caption);
+        return;
+    }
+    if (control.property("QuickGroup").isValid() && control.property("QuickGroup").toString().isEmpty())
+        control.setProperty("QuickGroup", command.group);
+    control.Refresh();
+    // Editors load their rows after listing what they offer.
+    if (control.metaObject()->indexOfSlot("FillData()") >= 0)
+        QMetaObject::invokeMethod(&control, "FillData");
+}
+
+QWidget* WorkbenchWindow::add(const QString& name)
+{
+    QWidget* list = m_tabs->currentWidget();
+    const QString alias = list ? list->property(CommandProperty).toString() : QString();
+    Command command;
+    findCommand(alias, &command);
+    QWidget* form = FormRegistry::create(name, m_tabs);
+    if (!form)
+        return nullptr;
+    form->setProperty(CommandProperty, alias);
+    form->setAutoFillBackground(true);
+    try {
+        if (auto* control = qobject_cast<HostedControl*>(form))
+            setUpControl(*control, alias, command.group);
+    } catch (const DbError& error) {
+        delete form;
+        showStatus(error.message());
+        return nullptr;
+    }
+    connectEvents(form);
+    const int index = m_tabs->addTab(form, name);
+    m_tabs->setCurrentIndex(index);
+    // The list titles the form "<caption> - <key>" once it has handed the key over.
+    connect(form, &QWidget::windowTitleChanged, this, [this, form](const QString& title) {
+        const int at = m_tabs->indexOf(form);
+        if (at >= 0)
+            m_tabs->setTabText(at, title);
+    });
+    return form;
 }
 
 void WorkbenchWindow::connectEvents(QObject* form)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "WorkbenchSession.h"
+#include "widgets/FormCollection.h"
 
 #include <QHash>
 #include <QMainWindow>
@@ -21,7 +22,7 @@ class DocumentToolBar;
 // tool bar over the forms, the forms as tabs in the centre and a status bar with the user,
 // the company database and the language. It hands every control its session in the
 // documented order and acts on every event a control raises.
-class WorkbenchWindow : public QMainWindow {
+class WorkbenchWindow : public QMainWindow, public FormCollection {
     Q_OBJECT
 
 public:
@@ -44,6 +45,10 @@ public:
     QString tabCommand(int index) const;
 
     static void registerDeleter(const QString& commandAlias, Deleter deleter);
+
+    // The document and master forms a list opens: a tab of their own, set up for the
+    // command of the list in the current tab.
+    QWidget* add(const QString& name) override;
 
     // Writes main.png and one picture per registered form into the folder; the files.
     QStringList saveScreenshots(const QString& folder);
@@ -82,6 +87,8 @@ private:
     void buildStatusBar();
     void fillModules(const QString& module);
     void setUpControl(HostedControl& control, const QString& commandAlias, const QString& commandGroup);
+    // Document and master lists load their definition and rows; other controls refresh.
+    void loadControl(HostedControl& control, const Command& command);
     void refreshLaunchers();
     bool findCommand(const QString& alias, Command* command) const;
     bool isQuickForm(const QString& alias) const;

@@ -7,7 +7,9 @@
 #include "WorkbenchSession.h"
 #include "WorkbenchWindow.h"
 #include "database/SessionFunctions.h"
+#include "documents/DucumentList.h"
 #include "editors/QuickGrid.h"
+#include "widgets/DataView.h"
 #include "foundation/Connection.h"
 #include "foundation/Recordset.h"
 #include "navigation/DocumentToolBar.h"
@@ -265,6 +267,45 @@ TEST_P(WorkbenchTest, AClerkMaintainsAMasterTableFromTheRibbon)
     editor->cmdCancel_Click();
     EXPECT_EQ(window->tabs()->tabText(window->tabs()->currentIndex()), "ฝ่าย");
     EXPECT_EQ(editor->grid()->TextMatrix(0, 1), "รหัส");
+}
+
+TEST_P(WorkbenchTest, AClerkFiltersADocumentListAndOpensADocumentInEachMode)
+{
+    auto window = open("SOMCHAI", "IC");
+    window->launch(QStringLiteral("PURPR"));
+    auto* list = qobject_cast<DucumentList*>(window->tabs()->currentWidget());
+    ASSERT_TRUE(list) << window->statusMessage().toStdString();
+    ASSERT_TRUE(list->definition().found);
+    list->findChild<QComboBox*>("cboBackDay")->setCurrentIndex(list->findChild<QComboBox*>("cboBackDay")->count() - 1);
+    auto* status = list->findChild<QComboBox*>("cboStatus");
+    QStringList seen;
+    for (int i = 0; i < status->count(); ++i) {
+        status->setCurrentIndex(i);
+        QTest::mouseClick(list->findChild<QPushButton*>("cmdSelect"), Qt::LeftButton);
+        list->dataView()->fetchAll();
+        if (list->dataView()->fetchedRows() > 0)
+            seen << status->itemText(i);
+    }
+    EXPECT_GE(seen.size(), 5) << seen.join(',').toStdString();
+
+    // The first document of "all": view it, then add one.
+    status->setCurrentIndex(0);
+    list->runQuery();
+    ASSERT_GT(list->dataView()->fetchedRows(), 0);
+    list->dataView()->setCurrentRow(0);
+    const QString key = list->dataView()->keyText();
+    const int tabs = window->tabs()->count();
+    Q_EMIT list->dataView()->viewRequested();
+    ASSERT_EQ(window->tabs()->count(), tabs + 1);
+    QWidget* form = window->tabs()->currentWidget();
+    EXPECT_EQ(form->property("RUNMODE").toString(), "VIEW");
+    EXPECT_EQ(form->property("DocNo").toString(), key);
+    EXPECT_EQ(window->tabs()->tabText(window->tabs()->currentIndex()), list->LCaption() + " - " + key);
+
+    window->tabs()->setCurrentWidget(list);
+    Q_EMIT list->dataView()->addRequested();
+    ASSERT_EQ(window->tabs()->count(), tabs + 2);
+    EXPECT_EQ(window->tabs()->currentWidget()->property("RUNMODE").toString(), "ADD");
 }
 
 QD8_ON_BOTH_ENGINES(WorkbenchTest);

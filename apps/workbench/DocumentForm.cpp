@@ -1,0 +1,889 @@
+#include "DocumentForm.h"
+
+#include "database/ClientObject.h"
+#include "database/ListService.h"
+#include "database/SessionServices.h"
+#include "foundation/Connection.h"
+#include "foundation/DbError.h"
+#include "foundation/Recordset.h"
+#include "foundation/Services.h"
+#include "foundation/Values.h"
+
+#include <QCheckBox>
+#include <QDate>
+#include <QDateTime>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <optional>
+
+namespace qd8 {
+
+namespace {
+
+constexpr int BuddhistEraOffset = 543;
+constexpr int NumberDigits = 7;  // document numbers: the prefix and seven digits
+
+QString shownDate(const QDate& date, int languageId)
+{
+    if (!date.isValid())
+        return {};
+    const int year = languageId == 0 ? date.year() + BuddhistEraOffset : date.year();
+    return QStringLiteral("%1/%2/%3")
+        .arg(date.day(), 2, 10, QLatin1Char('0'))
+        .arg(date.month(), 2, 10, QLatin1Char('0'))
+        .arg(year, 4, 10, QLatin1Char('0'));
+}
+
+// dd/MM/yyyy as a clerk types it (a Buddhist-era year above 2400 goes back 543 years) or
+// yyyy-MM-dd; an invalid date for anything else.
+QDate typedDate(const QString& text)
+{
+    const QString t = text.trimmed();
+    QDate date = QDate::fromString(t, QStringLiteral("d/M/yyyy"));
+    if (!date.isValid())
+        date = QDate::fromString(t, Qt::ISODate);
+    if (date.isValid() && date.year() > 2400)
+        date = date.addYears(-BuddhistEraOffset);
+    return date;
+}
+
+QString withoutSeparators(const QString& text)
+{
+    QString plain = text.trimmed();
+    plain.remove(QLatin1Char(','));
+    return plain;
+}
+
+// Thousands separators and at least two decimals; every stored decimal stays.
+QString shownMoney(const Currency& amount)
+{
+    QString digits = amount.toString();
+    const bool negative = digits.startsWith(QLatin1Char('-'));
+    if (negative)
+        digits.remove(0, 1);
+    QString whole = digits.section(QLatin1Char('.'), 0, 0);
+    QString fraction = digits.section(QLatin1Char('.'), 1);
+    while (fraction.size() < 2)
+        fraction += QLatin1Char('0');
+    for (qsizetype at = whole.size() - 3; at > 0; at -= 3)
+        whole.insert(at, QLatin1Char(','));
+    return (negative ? QStringLiteral("-") : QString()) + whole + QLatin1Char('.') + fraction;
+}
+
+std::optional<QVariant> typedNumber(const QString& text)
+{
+    const QString plain = withoutSeparators(text);
+    bool ok = false;
+    const qlonglong whole = plain.toLongLong(&ok);
+    if (ok)
+        return QVariant(whole);
+    const double value = plain.toDouble(&ok);
+    return ok ? std::optional<QVariant>(value) : std::nullopt;
+}
+
+// The number after `last`: its trailing digits counted up, their width kept.
+QString numberAfter(const QString& last)
+{
+    qsizetype start = last.size();
+    while (start > 0 && last.at(start - 1).isDigit())
+        --start;
+    const QString digits = last.mid(start);
+    if (digits.isEmpty())
+        return last + QString::number(1).rightJustified(NumberDigits, QLatin1Char('0'));
+    return last.left(start) + QString::number(digits.toLongLong() + 1).rightJustified(digits.size(), QLatin1Char('0'));
+}
+
+} // namespace
+
+DocumentField DocumentField::text(const QString& field, const QString& caption, const QString& caption2)
+{
+    DocumentField f;
+    f.field = field;
+    f.caption = caption;
+    f.caption2 = caption2;
+    return f;
+}
+
+DocumentField DocumentField::date(const QString& field, const QString& caption, const QString& caption2)
+{
+    DocumentField f = text(field, caption, caption2);
+    f.kind = Kind::Date;
+    return f;
+}
+
+DocumentField DocumentField::number(const QString& field, const QString& caption, const QString& caption2)
+{
+    DocumentField f = text(field, caption, caption2);
+    f.kind = Kind::Number;
+    return f;
+}
+
+DocumentField DocumentField::money(const QString& field, const QString& caption, const QString& caption2)
+{
+    DocumentField f = text(field, caption, caption2);
+    f.kind = Kind::Money;
+    return f;
+}
+
+DocumentField DocumentField::status(const QString& field, const QString& caption, const QString& caption2)
+{
+    DocumentField f = text(field, caption, caption2);
+    f.kind = Kind::Status;
+    f.readOnly = true;
+    return f;
+}
+
+DocumentField DocumentField::code(const QString& field, const QString& caption, const QString& caption2, const QString& table,
+    const QString& key, const QString& name)
+{
+    DocumentField f = text(field, caption, caption2);
+    f.kind = Kind::Code;
+    f.pickTable = table;
+    f.pickKey = key;
+    f.pickName = name;
+    return f;
+}
+
+DocumentField DocumentField::branch(const QString& field)
+{
+    DocumentField f = code(field, QStringLiteral("สาขา"), QStringLiteral("Branch"), QStringLiteral("QD8TBranch"), QStringLiteral("TBraCode"),
+        QStringLiteral("TBraName{N}"));
+    f.pickWhere = QStringLiteral("TBraFlag1=1 ORDER BY TBraSort");
+    return f.startsAs(Initial::UserBranch);
+}
+
+DocumentField DocumentField::project(const QString& field)
+{
+    DocumentField f = code(field, QStringLiteral("โครงการ"), QStringLiteral("Project"), QStringLiteral("QD8TProject"), QStringLiteral("TPrjCode"),
+        QStringLiteral("TPrjName{N}"));
+    f.pickWhere = QStringLiteral("TPrjFlag1=1 ORDER BY TPrjCode");
+    return f;
+}
+
+DocumentField DocumentField::customer(const QString& field)
+{
+    DocumentField f = code(field, QStringLiteral("ลูกค้า"), QStringLiteral("Customer"), QStringLiteral("QD8TAR"), QStringLiteral("TARNCode"),
+        QStringLiteral("TARNName{N}"));
+    f.pickWhere = QStringLiteral("TARNFlag1=1 AND TARNActiveStatus=1 ORDER BY TARNCode");
+    return f;
+}
+
+DocumentField DocumentField::supplier(const QString& field)
+{
+    DocumentField f = code(field, QStringLiteral("ผู้จำหน่าย"), QStringLiteral("Supplier"), QStringLiteral("QD8TAP"), QStringLiteral("TAPNCode"),
+        QStringLiteral("TAPNName{N}"));
+    f.pickWhere = QStringLiteral("TAPNFlag1=1 AND TAPNActiveStatus=1 ORDER BY TAPNCode");
+    return f;
+}
+
+DocumentField DocumentField::employee(const QString& field, const QString& caption, const QString& caption2)
+{
+    DocumentField f = code(field, caption, caption2, QStringLiteral("QD8TEmployee"), QStringLiteral("TEmpCode"), QStringLiteral("TEmpFullName{N}"));
+    f.pickWhere = QStringLiteral("TEmpFlag1=1 AND TEmpActiveStatus=1 ORDER BY TEmpCode");
+    return f;
+}
+
+DocumentField DocumentField::division(const QString& field)
+{
+    DocumentField f = code(field, QStringLiteral("ฝ่าย"), QStringLiteral("Division"), QStringLiteral("QD8TDivision"), QStringLiteral("TDivCode"),
+        QStringLiteral("TDivName{N}"));
+    f.pickWhere = QStringLiteral("TDivFlag1=1 ORDER BY TDivSort");
+    return f;
+}
+
+DocumentDefinition& DocumentDefinition::withWorkflowStatuses(const QString& prefix)
+{
+    fields << DocumentField::status(prefix + QStringLiteral("ConfirmStatus"), QStringLiteral("ยืนยันแล้ว"), QStringLiteral("Confirmed"))
+           << DocumentField::status(prefix + QStringLiteral("ApproveStatus"), QStringLiteral("อนุมัติแล้ว"), QStringLiteral("Approved"))
+           << DocumentField::status(prefix + QStringLiteral("CancelStatus"), QStringLiteral("ยกเลิกแล้ว"), QStringLiteral("Cancelled"));
+    return *this;
+}
+
+DocumentForm::DocumentForm(const DocumentDefinition& definition, QWidget* parent)
+    : HostedControl(parent)
+    , m_definition(definition)
+    , m_title(new QLabel(this))
+    , m_modeLabel(new QLabel(this))
+    , m_status(new QLabel(this))
+    , m_save(new QPushButton(this))
+    , m_close(new QPushButton(this))
+{
+    m_title->setObjectName(QStringLiteral("title"));
+    m_title->setStyleSheet(QStringLiteral("font-weight: bold; font-size: 12pt"));
+    m_modeLabel->setObjectName(QStringLiteral("mode"));
+    m_modeLabel->setStyleSheet(QStringLiteral("font-weight: bold; padding: 2px 8px; border: 1px solid palette(mid)"));
+    m_status->setObjectName(QStringLiteral("status"));
+    m_save->setObjectName(QStringLiteral("save"));
+    m_close->setObjectName(QStringLiteral("close"));
+    // Enter on a focused button presses it, as on the fields it moves on.
+    m_save->setAutoDefault(true);
+    m_close->setAutoDefault(true);
+
+    auto* header = new QHBoxLayout;
+    header->addWidget(m_title, 1);
+    header->addWidget(m_modeLabel);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(m_status, 1);
+    buttons->addWidget(m_save);
+    buttons->addWidget(m_close);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(header);
+    buildEntries(layout);
+    layout->addStretch(1);
+    layout->addLayout(buttons);
+
+    connect(m_save, &QPushButton::clicked, this, [this] { save(); });
+    connect(m_close, &QPushButton::clicked, this, &DocumentForm::requestClose);
+    Setbuttons();
+}
+
+DocumentForm::~DocumentForm() = default;
+
+void DocumentForm::buildEntries(QVBoxLayout* layout)
+{
+    auto* grid = new QGridLayout;
+    grid->setColumnStretch(2, 1);
+    auto* flags = new QHBoxLayout;
+    DocumentField key = DocumentField::text(m_definition.keyField, m_definition.keyCaption, m_definition.keyCaption2).mandatory();
+    QList<DocumentField> fields{key};
+    fields << m_definition.fields;
+    int row = 0;
+    for (const DocumentField& field : fields) {
+        addEntry(field);
+        Entry& entry = m_entries.last();
+        if (entry.check) {
+            flags->addWidget(entry.check);
+            continue;
+        }
+        grid->addWidget(entry.label, row, 0);
+        grid->addWidget(entry.box, row, 1);
+        if (entry.name)
+            grid->addWidget(entry.name, row, 2);
+        ++row;
+    }
+    flags->addStretch(1);
+    layout->addLayout(grid);
+    layout->addLayout(flags);
+}
+
+void DocumentForm::addEntry(const DocumentField& field)
+{
+    Entry entry;
+    entry.field = field;
+    if (field.kind == DocumentField::Kind::Status) {
+        entry.check = new QCheckBox(this);
+        entry.check->setObjectName(field.field);
+        entry.check->setEnabled(false);  // the workflow sets it, never the form
+        m_entries << entry;
+        return;
+    }
+    entry.label = new QLabel(this);
+    entry.box = new QLineEdit(this);
+    entry.box->setObjectName(field.field);
+    entry.label->setBuddy(entry.box);
+    entry.box->installEventFilter(this);
+    const bool wide = field.kind == DocumentField::Kind::Text && field.field != m_definition.keyField;
+    entry.box->setMinimumWidth(wide ? 360 : 160);
+    if (field.kind == DocumentField::Kind::Number || field.kind == DocumentField::Kind::Money)
+        entry.box->setAlignment(Qt::AlignRight);
+    if (field.kind == DocumentField::Kind::Date)
+        entry.box->setPlaceholderText(QStringLiteral("dd/mm/yyyy"));
+    if (field.kind == DocumentField::Kind::Code) {
+        entry.name = new QLabel(this);
+        entry.name->setObjectName(field.field + QStringLiteral("Name"));
+        QLineEdit* box = entry.box;
+        connect(box, &QLineEdit::editingFinished, this, [this, box] {
+            for (Entry& e : m_entries)
+                if (e.box == box)
+                    showName(e);
+        });
+    }
+    m_entries << entry;
+}
+
+QString DocumentForm::text(const char* thai, const char* english) const
+{
+    return QString::fromUtf8(LanguageID() == 0 ? thai : english);
+}
+
+QString DocumentForm::pickName(const DocumentField& field) const
+{
+    return QString(field.pickName).replace(QStringLiteral("{N}"), nameSuffix());
+}
+
+QString DocumentForm::shownCaption(const DocumentField& field) const
+{
+    return LanguageID() == 0 || field.caption2.isEmpty() ? field.caption : field.caption2;
+}
+
+void DocumentForm::retranslate()
+{
+    const QString title = LanguageID() == 0 ? m_definition.title : m_definition.title2;
+    m_title->setText(title);
+    m_title->setAccessibleName(title);
+    const QString mode = adding() ? text("เพิ่ม", "Add") : editing() ? text("แก้ไข", "Edit") : text("ดู", "View");
+    m_modeLabel->setText(mode);
+    m_modeLabel->setAccessibleName(text("โหมด", "Mode"));
+    m_status->setAccessibleName(text("สถานะ", "Status"));
+    m_save->setText(text("บันทึก (Ctrl+S)", "Save (Ctrl+S)"));
+    m_save->setAccessibleName(text("บันทึก", "Save"));
+    m_close->setText(text("ปิด (Esc)", "Close (Esc)"));
+    m_close->setAccessibleName(text("ปิด", "Close"));
+    for (Entry& entry : m_entries) {
+        const QString caption = shownCaption(entry.field);
+        if (entry.check) {
+            entry.check->setText(caption);
+            entry.check->setAccessibleName(caption);
+            continue;
+        }
+        entry.label->setText(caption);
+        entry.box->setAccessibleName(caption);
+        if (entry.name) {
+            entry.box->setToolTip(text("F2 เลือกจากรายการ", "F2 picks from a list"));
+            entry.name->setAccessibleName(caption + text(" ชื่อ", " name"));
+        }
+    }
+}
+
+void DocumentForm::setRUNMODE(const QString& mode)
+{
+    const QString upper = mode.trimmed().toUpper();
+    const QString next = upper == QLatin1String("ADD") || upper == QLatin1String("EDIT") ? upper : QStringLiteral("VIEW");
+    if (next == QLatin1String("ADD") && m_mode != next)
+        m_started = false;
+    m_mode = next;
+}
+
+void DocumentForm::setNewKey(const QString& key)
+{
+    m_newKey = key.trimmed();
+    if (!adding() || !m_started || m_newKey.isEmpty())
+        return;
+    keyBox()->setText(m_newKey);
+    m_entries.first().clean = m_newKey;
+    m_proposed.clear();
+}
+
+void DocumentForm::Setbuttons()
+{
+    retranslate();
+    if (adding() && !m_started)
+        startNew();
+    const bool writable = adding() || editing();
+    for (Entry& entry : m_entries) {
+        if (!entry.box)
+            continue;
+        const bool isKey = entry.field.field == m_definition.keyField;
+        entry.box->setReadOnly(!writable || entry.field.readOnly || (isKey && !adding()));
+    }
+    m_save->setVisible(writable);
+    m_close->setVisible(true);
+    focusFirst();
+}
+
+void DocumentForm::FillData()
+{
+    retranslate();
+    if (adding())
+        startNew();
+    else
+        loadRow();
+    Setbuttons();
+}
+
+void DocumentForm::Refresh()
+{
+    retranslate();
+    // A row only looked at is read again (dates and names in the new language); what a
+    // clerk is typing stays as it is.
+    if (!adding() && !editing() && m_loaded) {
+        loadRow();
+        return;
+    }
+    for (Entry& entry : m_entries)
+        showName(entry);
+}
+
+QString DocumentForm::caption() const
+{
+    const QString title = LanguageID() == 0 ? m_definition.title : m_definition.title2;
+    const QString key = keyBox()->text().trimmed();
+    return title + QStringLiteral(" - ") + (key.isEmpty() ? text("เพิ่ม", "New") : key);
+}
+
+QLineEdit* DocumentForm::box(const QString& field) const
+{
+    for (const Entry& entry : m_entries)
+        if (entry.field.field.compare(field, Qt::CaseInsensitive) == 0)
+            return entry.box;
+    return nullptr;
+}
+
+QCheckBox* DocumentForm::statusBox(const QString& field) const
+{
+    for (const Entry& entry : m_entries)
+        if (entry.field.field.compare(field, Qt::CaseInsensitive) == 0)
+            return entry.check;
+    return nullptr;
+}
+
+void DocumentForm::clearEntries()
+{
+    for (Entry& entry : m_entries) {
+        if (entry.box)
+            entry.box->clear();
+        if (entry.check)
+            entry.check->setChecked(false);
+        if (entry.name)
+            entry.name->clear();
+    }
+    m_row.clear();
+    m_loaded = false;
+}
+
+void DocumentForm::markClean()
+{
+    for (Entry& entry : m_entries)
+        if (entry.box)
+            entry.clean = entry.box->text();
+}
+
+bool DocumentForm::hasChanges() const
+{
+    if (!adding() && !editing())
+        return false;
+    for (const Entry& entry : m_entries)
+        if (entry.box && entry.box->text() != entry.clean)
+            return true;
+    return false;
+}
+
+void DocumentForm::startNew()
+{
+    clearEntries();
+    m_proposed.clear();
+    const QString branch = clientObject() ? clientObject()->branchCode() : QString();
+    for (Entry& entry : m_entries) {
+        if (entry.field.initial == DocumentField::Initial::Today)
+            entry.box->setText(shownDate(QDate::currentDate(), LanguageID()));
+        else if (entry.field.initial == DocumentField::Initial::UserBranch)
+            entry.box->setText(branch);
+        showName(entry);
+    }
+    QString key = m_newKey;
+    if (key.isEmpty() && !m_definition.isMaster() && !DataConnectionString().isEmpty()) {
+        try {
+            Connection data;
+            data.open(DataConnectionString());
+            key = m_proposed = proposeNumber(data);
+        } catch (const DbError& error) {
+            Services::messages().critical(m_title->text(), error.message());
+        }
+    }
+    keyBox()->setText(key);
+    markClean();
+    m_started = true;
+}
+
+QString DocumentForm::proposeNumber(Connection& data) const
+{
+    // Numbers are the prefix and a fixed run of digits; other keys of the table are left out.
+    const QString& prefix = m_definition.numberPrefix;
+    const QString& key = m_definition.keyField;
+    Recordset rs;
+    rs.open(Sql("SELECT MAX(") + key + ") AS LastNo FROM " + m_definition.table + " WHERE " + key + " LIKE "
+            + quoted(prefix + QString(NumberDigits, QLatin1Char('_'))) + " AND " + key + " BETWEEN "
+            + quoted(prefix + QString(NumberDigits, QLatin1Char('0'))) + " AND " + quoted(prefix + QString(NumberDigits, QLatin1Char('9'))),
+        data);
+    const QString last = rs.eof() ? QString() : qd8::text(rs.field(0));
+    return last.isEmpty() ? prefix + QString::number(1).rightJustified(NumberDigits, QLatin1Char('0')) : numberAfter(last);
+}
+
+void DocumentForm::loadRow()
+{
+    clearEntries();
+    const QString key = m_key.isEmpty() ? m_newKey : m_key;
+    m_key = key;
+    if (key.isEmpty()) {
+        markClean();
+        return;
+    }
+    try {
+        Connection data;
+        data.open(DataConnectionString());
+        Recordset rs;
+        rs.open(Sql("SELECT * FROM ") + m_definition.table + " WHERE " + m_definition.keyField + "=" + quoted(key), data);
+        if (rs.eof()) {
+            keyBox()->setText(key);
+            Services::messages().critical(m_title->text(), text("ไม่พบ %1 %2", "%1 %2 was not found").arg(shownCaption(m_entries.first().field), key));
+        } else {
+            showRow(rs);
+        }
+    } catch (const DbError& error) {
+        Services::messages().critical(m_title->text(), error.message());
+    }
+    markClean();
+}
+
+void DocumentForm::showRow(const Recordset& rs)
+{
+    for (int column = 0; column < rs.fieldCount(); ++column)
+        m_row.insert(rs.fieldName(column).toLower(), rs.field(column));
+    for (Entry& entry : m_entries) {
+        const QVariant value = rs.field(entry.field.field);
+        if (entry.check) {
+            entry.check->setChecked(toNumber(value) != 0);
+            continue;
+        }
+        switch (entry.field.kind) {
+        case DocumentField::Kind::Date:
+            entry.box->setText(shownDate(value.toDate(), LanguageID()));
+            break;
+        case DocumentField::Kind::Money:
+            entry.box->setText(value.isNull() ? QString() : shownMoney(toCurrency(value)));
+            break;
+        default:
+            entry.box->setText(qd8::text(value));
+        }
+        showName(entry);
+    }
+    m_loaded = true;
+}
+
+void DocumentForm::showName(Entry& entry)
+{
+    if (!entry.name)
+        return;
+    const QString code = entry.box->text().trimmed();
+    entry.name->clear();
+    if (code.isEmpty() || code.contains(QLatin1Char('\'')) || DataConnectionString().isEmpty())
+        return;
+    try {
+        const QVariant name = SessionServices::listService().LookupValue(QVariant(), entry.field.pickKey, code, pickName(entry.field),
+            entry.field.pickTable, DataConnectionString());
+        entry.name->setText(name.isValid() ? qd8::text(name) : text("ไม่พบรหัสนี้", "Unknown code"));
+    } catch (const DbError&) {
+        entry.name->clear();  // a name is a help only; the code is checked when saving
+    }
+}
+
+void DocumentForm::pick(Entry& entry)
+{
+    if (entry.box->isReadOnly())
+        return;
+    const DocumentField& f = entry.field;
+    const QString source = f.pickWhere.isEmpty() ? f.pickTable : f.pickTable + QStringLiteral(" WHERE ") + f.pickWhere;
+    QString code;
+    try {
+        code = SessionServices::listService().PickFromList(shownCaption(f), f.pickKey, f.pickKey + QLatin1Char(',') + pickName(f),
+            text("รหัส,ชื่อ", "Code,Name"), QStringLiteral("1800,5000"), QStringLiteral("0,0"), source, DataConnectionString(), 0, 0, 0, 1, 0, 0);
+    } catch (const DbError& error) {
+        Services::messages().critical(shownCaption(f), error.message());
+        return;
+    }
+    if (code.isEmpty())
+        return;
+    entry.box->setText(code);
+    showName(entry);
+    focusAfter(entry.box);
+}
+
+void DocumentForm::focusFirst()
+{
+    if (!adding() && !editing()) {
+        m_close->setFocus();
+        return;
+    }
+    for (const Entry& entry : m_entries)
+        if (entry.box && !entry.box->isReadOnly()) {
+            entry.box->setFocus();
+            entry.box->selectAll();
+            return;
+        }
+    m_save->setFocus();
+}
+
+void DocumentForm::focusAfter(QObject* from)
+{
+    qsizetype at = 0;
+    while (at < m_entries.size() && m_entries[at].box != from)
+        ++at;
+    for (qsizetype next = at + 1; next < m_entries.size(); ++next) {
+        QLineEdit* box = m_entries[next].box;
+        if (box && !box->isReadOnly()) {
+            box->setFocus();
+            box->selectAll();
+            return;
+        }
+    }
+    (m_save->isVisible() ? m_save : m_close)->setFocus();
+}
+
+bool DocumentForm::handleKey(QKeyEvent* event, QObject* from)
+{
+    const int key = event->key();
+    if (key == Qt::Key_S && event->modifiers().testFlag(Qt::ControlModifier)) {
+        save();
+        return true;
+    }
+    if (key == Qt::Key_Escape) {
+        requestClose();
+        return true;
+    }
+    for (Entry& entry : m_entries) {
+        if (entry.box != from)
+            continue;
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            focusAfter(from);
+            return true;
+        }
+        if (key == Qt::Key_F2 && entry.name) {
+            pick(entry);
+            return true;
+        }
+    }
+    return false;
+}
+
+bool DocumentForm::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && handleKey(static_cast<QKeyEvent*>(event), watched))
+        return true;
+    return HostedControl::eventFilter(watched, event);
+}
+
+void DocumentForm::keyPressEvent(QKeyEvent* event)
+{
+    if (!handleKey(event, nullptr))
+        HostedControl::keyPressEvent(event);
+}
+
+void DocumentForm::requestClose()
+{
+    if (hasChanges()
+        && !Services::messages().question(m_title->text(),
+            text("มีข้อมูลที่ยังไม่ได้บันทึก ต้องการปิดโดยไม่บันทึกใช่หรือไม่", "There are changes that are not saved. Close without saving?")))
+        return;
+    Q_EMIT CloseAction();
+    if (isWindow())
+        close();
+}
+
+QString DocumentForm::problem() const
+{
+    for (const Entry& entry : m_entries) {
+        if (!entry.box || (entry.field.readOnly && entry.field.field != m_definition.keyField))
+            continue;
+        const QString typed = entry.box->text().trimmed();
+        const QString caption = shownCaption(entry.field);
+        if (typed.isEmpty()) {
+            if (entry.field.required)
+                return text("กรุณาระบุ %1", "Please enter %1").arg(caption);
+            continue;
+        }
+        const bool composed = entry.field.kind == DocumentField::Kind::Code || entry.field.field == m_definition.keyField;
+        if (composed && typed.contains(QLatin1Char('\'')))
+            return text("%1 ต้องไม่มีเครื่องหมาย '", "%1 must not contain '").arg(caption);
+        if (entry.field.kind == DocumentField::Kind::Date && !typedDate(typed).isValid())
+            return text("%1: วันที่ไม่ถูกต้อง (วว/ดด/ปปปป) %2", "%1: not a date (dd/mm/yyyy) %2").arg(caption, typed);
+        if (entry.field.kind == DocumentField::Kind::Number && !typedNumber(typed))
+            return text("%1: ตัวเลขไม่ถูกต้อง %2", "%1: not a number %2").arg(caption, typed);
+        if (entry.field.kind == DocumentField::Kind::Money && !Currency::parse(withoutSeparators(typed)))
+            return text("%1: จำนวนเงินไม่ถูกต้อง %2", "%1: not an amount %2").arg(caption, typed);
+    }
+    return {};
+}
+
+QString DocumentForm::missingCode(Connection& data) const
+{
+    for (const Entry& entry : m_entries) {
+        if (entry.field.kind != DocumentField::Kind::Code || entry.box->isReadOnly() || entry.box->text() == entry.clean)
+            continue;
+        const QString code = entry.box->text().trimmed();
+        if (code.isEmpty())
+            continue;
+        Recordset rs;
+        rs.open(Sql("SELECT ") + entry.field.pickKey + " FROM " + entry.field.pickTable + " WHERE " + entry.field.pickKey + "=" + quoted(code),
+            data);
+        if (rs.eof())
+            return text("ไม่พบ%1 %2", "There is no %1 %2").arg(shownCaption(entry.field), code);
+    }
+    return {};
+}
+
+QVariant DocumentForm::storedValue(const Entry& entry) const
+{
+    const QString typed = entry.box->text().trimmed();
+    if (typed.isEmpty())
+        return {};
+    switch (entry.field.kind) {
+    case DocumentField::Kind::Date:
+        return typedDate(typed);
+    case DocumentField::Kind::Number:
+        return typedNumber(typed).value_or(QVariant());
+    case DocumentField::Kind::Money:
+        if (const auto amount = Currency::parse(withoutSeparators(typed)))
+            return QVariant::fromValue(*amount);
+        return {};
+    default:
+        return typed;
+    }
+}
+
+void DocumentForm::setAudit(Recordset& rs, const char* by, const char* at) const
+{
+    if (m_definition.auditPrefix.isEmpty())
+        return;
+    const QString byField = m_definition.auditPrefix + QLatin1String(by);
+    const QString atField = m_definition.auditPrefix + QLatin1String(at);
+    if (rs.fieldIndex(byField) >= 0)
+        rs.setField(byField, UserLoginName());
+    if (rs.fieldIndex(atField) >= 0)
+        rs.setField(atField, QDateTime::currentDateTime());
+}
+
+QString DocumentForm::writeNew(Connection& data, const QString& typedKey)
+{
+    QString key = typedKey;
+    const auto rowOf = [&](const QString& value) {
+        Recordset rs;
+        rs.open(Sql("SELECT * FROM ") + m_definition.table + " WHERE " + m_definition.keyField + "=" + quoted(value), data,
+            Recordset::adOpenKeyset, Recordset::adLockOptimistic);
+        return rs;
+    };
+    Recordset rs = rowOf(key);
+    // Someone else saved under the number this form proposed: the next one is taken.
+    if (!rs.eof() && !m_proposed.isEmpty() && key == m_proposed) {
+        key = proposeNumber(data);
+        rs = rowOf(key);
+    }
+    if (!rs.eof())
+        throw DbError(DbError::Kind::Conflict,
+            text("%1 %2 มีอยู่แล้ว บันทึกซ้ำไม่ได้", "%1 %2 already exists and cannot be added again").arg(shownCaption(m_entries.first().field), key));
+    rs.addNew();
+    rs.setField(m_definition.keyField, key);
+    for (const Entry& entry : m_entries) {
+        if (!entry.box || entry.field.readOnly || entry.field.field == m_definition.keyField)
+            continue;
+        const QVariant value = storedValue(entry);
+        if (value.isNull())
+            continue;
+        rs.setField(entry.field.field, value);
+        for (auto copy = m_definition.copiedOnAdd.cbegin(); copy != m_definition.copiedOnAdd.cend(); ++copy)
+            if (copy.value() == entry.field.field)
+                rs.setField(copy.key(), value);
+    }
+    setAudit(rs, "CreateBy", "CreateDate");
+    rs.update();
+    return key;
+}
+
+QString DocumentForm::conflictWith(const Recordset& rs) const
+{
+    for (int column = 0; column < rs.fieldCount(); ++column) {
+        const auto read = m_row.constFind(rs.fieldName(column).toLower());
+        if (read == m_row.constEnd() || qd8::text(*read) != qd8::text(rs.field(column)))
+            return rs.fieldName(column);
+    }
+    return {};
+}
+
+void DocumentForm::writeChanges(Connection& data)
+{
+    const QString key = qd8::text(m_row.value(m_definition.keyField.toLower()));
+    const QString caption = shownCaption(m_entries.first().field);
+    Recordset rs;
+    rs.open(Sql("SELECT * FROM ") + m_definition.table + " WHERE " + m_definition.keyField + "=" + quoted(key), data, Recordset::adOpenKeyset,
+        Recordset::adLockOptimistic);
+    if (rs.eof())
+        throw DbError(DbError::Kind::Conflict, text("ผู้ใช้อื่นลบ %1 %2 ไปแล้ว", "Another user deleted %1 %2").arg(caption, key));
+    if (!conflictWith(rs).isEmpty())
+        throw DbError(DbError::Kind::Conflict,
+            text("ผู้ใช้อื่นแก้ไข %1 %2 ไปแล้วหลังจากที่ท่านเปิด", "Another user changed %1 %2 after you opened it").arg(caption, key));
+    bool changed = false;
+    for (const Entry& entry : m_entries) {
+        if (!entry.box || entry.box->isReadOnly() || entry.box->text() == entry.clean)
+            continue;
+        rs.setField(entry.field.field, storedValue(entry));
+        changed = true;
+    }
+    if (!changed)
+        return;
+    setAudit(rs, "EditBy", "EditDate");
+    rs.update();
+}
+
+bool DocumentForm::save()
+{
+    if (!adding() && !editing())
+        return false;
+    auto& messages = Services::messages();
+    const QString title = m_title->text();
+    if (editing() && !m_loaded) {
+        messages.critical(title, text("ยังไม่ได้เปิดข้อมูลที่จะแก้ไข", "Nothing is loaded to edit"));
+        return false;
+    }
+    const QString bad = problem();
+    if (!bad.isEmpty()) {
+        messages.critical(title, bad);
+        return false;
+    }
+    QString key = keyBox()->text().trimmed();
+    try {
+        Connection data;
+        data.open(DataConnectionString());
+        const QString missing = missingCode(data);
+        if (!missing.isEmpty()) {
+            messages.critical(title, missing);
+            return false;
+        }
+        // The row as a whole or nothing: a refusal leaves the table and the form as they were.
+        data.beginTrans();
+        try {
+            if (adding())
+                key = writeNew(data, key);
+            else
+                writeChanges(data);
+            data.commitTrans();
+        } catch (...) {
+            data.rollbackTrans();
+            throw;
+        }
+    } catch (const DbError& error) {
+        messages.critical(title, error.message() + QLatin1Char('\n')
+                + text("ข้อมูลที่ท่านป้อนยังอยู่ในฟอร์ม ไม่ได้บันทึก", "What you entered is still in the form; nothing was saved."));
+        return false;
+    }
+    afterSave(key);
+    return true;
+}
+
+void DocumentForm::afterSave(const QString& key)
+{
+    const bool wasAdding = adding();
+    m_key = key;
+    m_newKey = key;
+    m_mode = QStringLiteral("EDIT");
+    m_started = false;
+    loadRow();
+    Setbuttons();
+    if (wasAdding) {
+        const QString shown = windowTitle();
+        const QString head = shown.contains(QLatin1String(" - ")) ? shown.section(QStringLiteral(" - "), 0, -2) : m_title->text();
+        setWindowTitle(head + QStringLiteral(" - ") + key);
+    }
+    setStatusText(text("บันทึก %1 แล้ว", "Saved %1").arg(key));
+    Q_EMIT Saved(key);
+}
+
+void DocumentForm::setStatusText(const QString& message)
+{
+    m_status->setText(message);
+}
+
+} // namespace qd8

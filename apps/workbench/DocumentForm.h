@@ -1,0 +1,217 @@
+#pragma once
+
+#include "widgets/HostedControl.h"
+
+#include <QHash>
+#include <QList>
+#include <QVariant>
+
+class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QVBoxLayout;
+
+namespace qd8 {
+
+class Connection;
+class Recordset;
+
+// One header field of a document or master form.
+struct DocumentField {
+    enum class Kind {
+        Text,
+        Date,    // dd/MM/yyyy, the Buddhist-era year in Thai
+        Number,
+        Money,   // exact to four decimals, shown with thousands separators
+        Code,    // a key of another table, F2 picks it
+        Status   // a flag the workflow sets; shown, never written
+    };
+    enum class Initial { None, Today, UserBranch };
+
+    QString field;
+    QString caption;   // Thai
+    QString caption2;  // English
+    Kind kind = Kind::Text;
+    bool required = false;
+    bool readOnly = false;  // shown, never written (amounts kept by other documents)
+    Initial initial = Initial::None;
+    // Code fields: the table the code comes from, its key, its name column ("{N}" is the
+    // language's name suffix: "" Thai, "2" English) and the filter of the pick list ("" for
+    // every row).
+    QString pickTable;
+    QString pickKey;
+    QString pickName;
+    QString pickWhere;
+
+    static DocumentField text(const QString& field, const QString& caption, const QString& caption2);
+    static DocumentField date(const QString& field, const QString& caption, const QString& caption2);
+    static DocumentField number(const QString& field, const QString& caption, const QString& caption2);
+    static DocumentField money(const QString& field, const QString& caption, const QString& caption2);
+    static DocumentField status(const QString& field, const QString& caption, const QString& caption2);
+    static DocumentField code(const QString& field, const QString& caption, const QString& caption2, const QString& table,
+        const QString& key, const QString& name);
+    // The codes every module shares, active ones offered by F2.
+    static DocumentField branch(const QString& field);
+    static DocumentField project(const QString& field);
+    static DocumentField customer(const QString& field);
+    static DocumentField supplier(const QString& field);
+    static DocumentField employee(const QString& field, const QString& caption, const QString& caption2);
+    static DocumentField division(const QString& field);
+
+    DocumentField& mandatory() { required = true; return *this; }
+    DocumentField& shownOnly() { readOnly = true; return *this; }
+    DocumentField& startsAs(Initial value) { initial = value; return *this; }
+};
+
+// What a document or master form edits: one row of one table, found by a single key.
+struct DocumentDefinition {
+    QString title;   // Thai
+    QString title2;  // English
+    QString table;
+    QString keyField;
+    QString keyCaption;
+    QString keyCaption2;
+    // Documents: a new number is the prefix and seven digits ("PR0000013"), one after the
+    // largest such number of the table. Masters leave it "": the clerk types the code.
+    QString numberPrefix;
+    // "<prefix>CreateBy", "CreateDate", "EditBy", "EditDate" are written when the table
+    // has them.
+    QString auditPrefix;
+    QList<DocumentField> fields;
+    // Columns a new row starts with the value of a field: column -> field (an invoice
+    // is wholly outstanding when it is added).
+    QHash<QString, QString> copiedOnAdd;
+
+    bool isMaster() const { return numberPrefix.isEmpty(); }
+    // The confirm, approve and cancel flags of a document table ("<prefix>ConfirmStatus"...).
+    DocumentDefinition& withWorkflowStatuses(const QString& prefix);
+};
+
+// A document or master form of the workbench: the header fields of one row, read with a
+// recordset and written back in one transaction (INSERT when adding, UPDATE of the changed
+// fields when editing; a row someone else changed or deleted meanwhile is reported and the
+// clerk's values stay in the form). A list opens it through the host's form collection and
+// drives it by name: RUNMODE, Setbuttons, NewDocNo/DocNo or NewMasterCode/MasterCode, then
+// FillData. Keyboard first: Enter moves on, F2 picks a code, Ctrl+S saves, Esc closes
+// (asking when there are unsaved changes).
+class DocumentForm : public HostedControl {
+    Q_OBJECT
+    Q_PROPERTY(QString RUNMODE READ RUNMODE WRITE setRUNMODE)
+    Q_PROPERTY(QString NewDocNo READ NewDocNo WRITE setNewDocNo)
+    Q_PROPERTY(QString DocNo READ DocNo WRITE setDocNo)
+    Q_PROPERTY(QString FormFunction READ FormFunction WRITE setFormFunction)
+    Q_PROPERTY(QString NewMasterCode READ NewMasterCode WRITE setNewMasterCode)
+    Q_PROPERTY(QString MasterCode READ MasterCode WRITE setMasterCode)
+
+public:
+    explicit DocumentForm(const DocumentDefinition& definition, QWidget* parent = nullptr);
+    ~DocumentForm() override;
+
+    const DocumentDefinition& definition() const { return m_definition; }
+
+    // "ADD", "EDIT" or "VIEW" (anything else is VIEW).
+    QString RUNMODE() const { return m_mode; }
+    void setRUNMODE(const QString& mode);
+    // The number a new document starts with ("" proposes the next one); the document shown.
+    QString NewDocNo() const { return m_newKey; }
+    void setNewDocNo(const QString& key) { setNewKey(key); }
+    QString DocNo() const { return m_key; }
+    void setDocNo(const QString& key) { m_key = key.trimmed(); }
+    // Masters: the list's form function (kept for the form), the new and the shown code.
+    QString FormFunction() const { return m_formFunction; }
+    void setFormFunction(const QString& value) { m_formFunction = value; }
+    QString NewMasterCode() const { return m_newKey; }
+    void setNewMasterCode(const QString& key) { setNewKey(key); }
+    QString MasterCode() const { return m_key; }
+    void setMasterCode(const QString& key) { m_key = key.trimmed(); }
+
+    // Shows and enables the buttons and fields of the mode; ADD starts a new row.
+    Q_INVOKABLE void Setbuttons();
+    // Loads the row of DocNo/MasterCode; ADD clears the form and fills the defaults.
+    Q_INVOKABLE void FillData();
+    // "<title> - <key>" in the session language; the host titles the tab with it.
+    Q_INVOKABLE QString caption() const;
+
+    // The box of a field (the key included), nullptr for a status or an unknown field.
+    QLineEdit* box(const QString& field) const;
+    QCheckBox* statusBox(const QString& field) const;
+    QLineEdit* keyBox() const { return box(m_definition.keyField); }
+    // Whether a field differs from what was loaded or proposed.
+    bool hasChanges() const;
+    // Validates and writes the row; true when it was written.
+    bool save();
+    // Esc and the close button: asks first when there are unsaved changes.
+    void requestClose();
+
+public Q_SLOTS:
+    // Captions and code names in the session language; a row in VIEW is read again.
+    void Refresh() override;
+
+Q_SIGNALS:
+    void Saved(QString key);
+    void CloseAction();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    struct Entry {
+        DocumentField field;
+        QLabel* label = nullptr;
+        QLineEdit* box = nullptr;
+        QCheckBox* check = nullptr;
+        QLabel* name = nullptr;  // the name of a code
+        QString clean;           // the text as loaded or proposed
+    };
+
+    void buildEntries(QVBoxLayout* layout);
+    void addEntry(const DocumentField& field);
+    void setNewKey(const QString& key);
+    bool adding() const { return m_mode == QLatin1String("ADD"); }
+    bool editing() const { return m_mode == QLatin1String("EDIT"); }
+    QString text(const char* thai, const char* english) const;
+    QString shownCaption(const DocumentField& field) const;
+    QString pickName(const DocumentField& field) const;
+    void retranslate();
+    void startNew();
+    void loadRow();
+    void showRow(const Recordset& rs);
+    void clearEntries();
+    void markClean();
+    void showName(Entry& entry);
+    QString proposeNumber(Connection& data) const;
+    void pick(Entry& entry);
+    bool handleKey(QKeyEvent* event, QObject* from);
+    void focusAfter(QObject* from);
+    void focusFirst();
+    // Why the form cannot be saved as it stands ("" when it can).
+    QString problem() const;
+    QString missingCode(Connection& data) const;
+    QVariant storedValue(const Entry& entry) const;
+    QString writeNew(Connection& data, const QString& key);
+    void writeChanges(Connection& data);
+    void setAudit(Recordset& rs, const char* by, const char* at) const;
+    QString conflictWith(const Recordset& rs) const;
+    void afterSave(const QString& key);
+    void setStatusText(const QString& message);
+
+    DocumentDefinition m_definition;
+    QString m_mode = QStringLiteral("VIEW");
+    QString m_newKey;
+    QString m_key;
+    QString m_formFunction;
+    QString m_proposed;       // the number the form proposed, "" when typed
+    bool m_started = false;   // a new row is set up in ADD
+    bool m_loaded = false;    // the row of m_key is shown
+    QList<Entry> m_entries;   // the key first
+    QHash<QString, QVariant> m_row;  // every column as read, by lower-cased name
+    QLabel* m_title = nullptr;
+    QLabel* m_modeLabel = nullptr;
+    QLabel* m_status = nullptr;
+    QPushButton* m_save = nullptr;
+    QPushButton* m_close = nullptr;
+};
+
+} // namespace qd8

@@ -1,0 +1,492 @@
+#include "support/SampleCompany.h"
+#include "support/ScriptedServices.h"
+
+#include "WorkbenchForms.h"
+#include "WorkbenchSession.h"
+#include "WorkbenchWindow.h"
+#include "foundation/Connection.h"
+#include "foundation/Recordset.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTest>
+
+using namespace qd8;
+using namespace qd8::test;
+
+namespace {
+
+// The registered forms, each with a free-text field the tests edit and the columns a row
+// needs before it can be saved (comma lists; the same values typed when adding).
+struct FormCase {
+    const char* form;
+    const char* table;
+    const char* keyField;
+    const char* prefix;  // documents number themselves; masters ("") take a typed code
+    const char* textField;
+    const char* columns;
+    const char* values;
+    bool master() const { return *prefix == 0; }
+};
+
+const FormCase Forms[] = {
+    {"DOCPR", "QD8TPR", "TPRDNo", "PR", "TPRDDescription", "TPRDDate", "2026-01-15"},
+    {"DOCPO", "QD8TPO", "TPODNo", "PO", "TPODDescription", "TPODDate,TPODTAPNCode", "2026-01-15,QS901"},
+    {"DOCSO", "QD8TSO", "TSODNo", "SO", "TSODDescription", "TSODDate,TSODTARNCode", "2026-01-15,QC901"},
+    {"DOCINVOICE", "QD8TARInvoice", "TIvoNo", "IV", "TIvoDescription", "TIvoDate,TIvoTARNCode,TIvoAmount", "2026-01-15,QC901,1500.25"},
+    {"DOCISSUE", "QD8TInventory", "TInvNo", "IS", "TInvDescription", "TInvDate", "2026-01-15"},
+    {"MASTERCUSTOMER", "QD8TAR", "TARNCode", "", "TARNName", "", ""},
+    {"MASTERPRODUCT", "QD8TProduct", "TPdtCode", "", "TPdtName", "", ""},
+    {"MASTERSUPPLIER", "QD8TAP", "TAPNCode", "", "TAPNName", "", ""},
+};
+
+const FormCase& formCase(const char* name)
+{
+    for (const FormCase& c : Forms)
+        if (qstrcmp(c.form, name) == 0)
+            return c;
+    throw std::invalid_argument(name);
+}
+
+QStringList listOf(const char* commaList)
+{
+    return *commaList ? QString::fromLatin1(commaList).split(QLatin1Char(',')) : QStringList();
+}
+
+class DocumentFormTest : public SampleCompanyTest {
+protected:
+    void SetUp() override
+    {
+        SampleCompanyTest::SetUp();
+        if (IsSkipped())
+            return;
+        registerWorkbenchForms();
+        runOnData({"INSERT INTO QD8TAR (TARNCode, TARNName, TARNName2) VALUES ('QC901', 'บริษัท สยามค้าส่ง จำกัด', 'Siam Wholesale')",
+            "INSERT INTO QD8TAP (TAPNCode, TAPNName, TAPNName2) VALUES ('QS901', 'ห้างหุ้นส่วน ไทยวัสดุ', 'Thai Materials')"});
+        session = WorkbenchSession::fromConnectionStrings(appConnectionString(), dataConnectionString(), files.path());
+    }
+    void logIn(const char* user)
+    {
+        ASSERT_TRUE(session.logIn(QString::fromLatin1(user), QStringLiteral("1234")));
+        window = std::make_unique<WorkbenchWindow>(session);
+        window->show();
+    }
+    // Opens a form exactly as a document or master list does, by its late-bound members;
+    // a member the form lacks fails the test.
+    QWidget* openAsList(const FormCase& c, const QString& mode, const QString& key)
+    {
+        QWidget* form = window->add(QString::fromLatin1(c.form));
+        EXPECT_TRUE(form) << c.form;
+        if (!form)
+            return nullptr;
+        const bool adding = mode == QLatin1String("ADD");
+        EXPECT_TRUE(form->setProperty("RUNMODE", mode));
+        if (c.master()) {
+            EXPECT_TRUE(form->setProperty("FormFunction", QStringLiteral("1")));
+        }
+        EXPECT_TRUE(QMetaObject::invokeMethod(form, "Setbuttons", Qt::DirectConnection));
+        const char* newKey = c.master() ? "NewMasterCode" : "NewDocNo";
+        const char* shownKey = c.master() ? "MasterCode" : "DocNo";
+        EXPECT_TRUE(form->setProperty(newKey, key));
+        if (!adding) {
+            EXPECT_TRUE(form->setProperty(shownKey, key));
+        }
+        form->setWindowTitle(QStringLiteral("รายการ - ") + (adding ? QStringLiteral("เพิ่ม") : key));
+        if (!adding) {
+            EXPECT_TRUE(QMetaObject::invokeMethod(form, "FillData", Qt::DirectConnection));
+        }
+        return form;
+    }
+    void seed(const FormCase& c, const QString& key, const QString& text) const
+    {
+        QStringList columns{QString::fromLatin1(c.keyField), QString::fromLatin1(c.textField)};
+        QStringList values{"'" + key + "'", "'" + text + "'"};
+        columns << listOf(c.columns);
+        for (const QString& value : listOf(c.values))
+            values << "'" + value + "'";
+        runOnData({QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(QLatin1String(c.table), columns.join(','), values.join(','))});
+    }
+    // A column of one row as text, "<none>" when the row is not there.
+    QString cell(const FormCase& c, const QString& key, const QString& column) const
+    {
+        Connection data;
+        data.open(dataConnectionString());
+        Recordset rs;
+        rs.open(Sql("SELECT * FROM ") + c.table + " WHERE " + c.keyField + "=" + quoted(key), data);
+        return rs.eof() ? QStringLiteral("<none>") : rs.text(column);
+    }
+    qsizetype rowCount(const FormCase& c) const
+    {
+        Connection data;
+        data.open(dataConnectionString());
+        Recordset rs;
+        rs.open(Sql("SELECT * FROM ") + c.table, data);
+        return rs.recordCount();
+    }
+    QString branchOf(const char* user) const
+    {
+        Connection data;
+        data.open(dataConnectionString());
+        Recordset rs;
+        rs.open(Sql("SELECT TEmpTBraCode FROM QD8TUser INNER JOIN QD8TEmployee ON TUsrTEmpCode=TEmpCode WHERE TUsrLoginName=") + quoted(user), data);
+        return rs.text("TEmpTBraCode");
+    }
+    static QLineEdit* box(QWidget* form, const QString& field) { return form->findChild<QLineEdit*>(field); }
+    static void retype(QLineEdit* box, const QString& text)
+    {
+        box->clear();
+        typeText(box, text);
+    }
+    static void pressSave(QWidget* form, const FormCase& c)
+    {
+        QTest::keyClick(box(form, QString::fromLatin1(c.textField)), Qt::Key_S, Qt::ControlModifier);
+    }
+    QStringList criticals() const
+    {
+        QStringList texts;
+        for (const auto& shown : scriptedMessages().shown)
+            if (shown.kind == QLatin1String("critical"))
+                texts << shown.text;
+        return texts;
+    }
+
+    QTemporaryDir files;
+    WorkbenchSession session;
+    std::unique_ptr<WorkbenchWindow> window;
+};
+
+TEST_P(DocumentFormTest, EachFormShowsARowReadOnlyAndSavesOnlyTheEditedOne)
+{
+    logIn("SOMCHAI");
+    for (const FormCase& c : Forms) {
+        SCOPED_TRACE(c.form);
+        const QString first = QString::fromLatin1(c.master() ? "T01" : c.prefix) + QStringLiteral("TEST01");
+        const QString second = QString::fromLatin1(c.master() ? "T02" : c.prefix) + QStringLiteral("TEST02");
+        seed(c, first, QStringLiteral("ข้อความเดิม ฉบับที่หนึ่ง"));
+        seed(c, second, QStringLiteral("ข้อความเดิม ฉบับที่สอง"));
+
+        QWidget* view = openAsList(c, "VIEW", first);
+        ASSERT_TRUE(view);
+        EXPECT_EQ(box(view, c.keyField)->text(), first);
+        EXPECT_EQ(box(view, c.textField)->text(), "ข้อความเดิม ฉบับที่หนึ่ง");
+        EXPECT_EQ(view->findChild<QLabel*>("mode")->text(), "ดู");
+        EXPECT_EQ(window->tabs()->tabText(window->tabs()->indexOf(view)), "รายการ - " + first);
+        for (QLineEdit* field : view->findChildren<QLineEdit*>()) {
+            EXPECT_TRUE(field->isReadOnly()) << field->objectName().toStdString();
+            EXPECT_FALSE(field->accessibleName().isEmpty()) << field->objectName().toStdString();
+        }
+        for (QWidget* other : view->findChildren<QCheckBox*>())
+            EXPECT_FALSE(other->accessibleName().isEmpty()) << other->objectName().toStdString();
+        EXPECT_FALSE(view->findChild<QPushButton*>("save")->isVisibleTo(view));
+        EXPECT_TRUE(view->findChild<QPushButton*>("close")->isVisibleTo(view));
+        pressSave(view, c);
+        EXPECT_EQ(cell(c, first, c.textField), "ข้อความเดิม ฉบับที่หนึ่ง");
+
+        QWidget* edit = openAsList(c, "EDIT", first);
+        ASSERT_TRUE(edit);
+        QSignalSpy saved(edit, SIGNAL(Saved(QString)));
+        EXPECT_TRUE(box(edit, c.keyField)->isReadOnly());
+        EXPECT_EQ(edit->findChild<QLabel*>("mode")->text(), "แก้ไข");
+        retype(box(edit, c.textField), QStringLiteral("แก้ไขแล้ว: ผู้จัดการอนุมัติ"));
+        pressSave(edit, c);
+        EXPECT_TRUE(criticals().isEmpty()) << criticals().join('\n').toStdString();
+        ASSERT_EQ(saved.count(), 1);
+        EXPECT_EQ(saved.first().first().toString(), first);
+        EXPECT_EQ(cell(c, first, c.textField), "แก้ไขแล้ว: ผู้จัดการอนุมัติ");
+        EXPECT_EQ(cell(c, second, c.textField), "ข้อความเดิม ฉบับที่สอง");
+        if (!c.master()) {
+            EXPECT_EQ(cell(c, first, QString(c.keyField).chopped(2) + "EditBy"), "SOMCHAI");
+        }
+        window->closeForm(view);
+        window->closeForm(edit);
+    }
+}
+
+TEST_P(DocumentFormTest, EachFormViewsTheFirstSampleRowInEitherLanguage)
+{
+    for (const char* user : {"SOMCHAI", "JOHN"}) {
+        logIn(user);
+        for (const FormCase& c : Forms) {
+            SCOPED_TRACE(std::string(c.form) + " " + user);
+            scriptedMessages().reset();
+            Connection data;
+            data.open(dataConnectionString());
+            Recordset rs;
+            rs.open(Sql("SELECT ") + c.keyField + " FROM " + c.table + " ORDER BY " + c.keyField, data);
+            if (rs.eof())
+                seed(c, QStringLiteral("FIRST1"), QStringLiteral("แถวแรก"));
+            const QString key = rs.eof() ? QStringLiteral("FIRST1") : rs.text(c.keyField);
+            QWidget* form = openAsList(c, "VIEW", key);
+            ASSERT_TRUE(form);
+            EXPECT_TRUE(criticals().isEmpty()) << criticals().join('\n').toStdString();
+            EXPECT_EQ(box(form, c.keyField)->text(), key);
+            EXPECT_EQ(box(form, c.textField)->text(), cell(c, key, c.textField));
+            EXPECT_EQ(form->findChild<QLabel*>("mode")->text(), qstrcmp(user, "JOHN") == 0 ? "View" : "ดู");
+            QString title;
+            EXPECT_TRUE(QMetaObject::invokeMethod(form, "caption", Qt::DirectConnection, Q_RETURN_ARG(QString, title)));
+            EXPECT_TRUE(title.endsWith(" - " + key)) << title.toStdString();
+            window->closeForm(form);
+        }
+    }
+}
+
+TEST_P(DocumentFormTest, AddingProposesTheNextNumberOrTakesATypedCodeAndInserts)
+{
+    logIn("SOMCHAI");
+    for (const FormCase& c : Forms) {
+        SCOPED_TRACE(c.form);
+        QString key = QStringLiteral("NEW01");
+        if (!c.master()) {
+            seed(c, QString::fromLatin1(c.prefix) + QStringLiteral("9000041"), QStringLiteral("ฉบับก่อน"));
+            seed(c, QString::fromLatin1(c.prefix) + QStringLiteral("X-OLD"), QStringLiteral("เลขที่แบบอื่น"));
+            key = QString::fromLatin1(c.prefix) + QStringLiteral("9000042");
+        }
+        const qsizetype before = rowCount(c);
+        QWidget* form = openAsList(c, "ADD", QString());
+        ASSERT_TRUE(form);
+        QSignalSpy saved(form, SIGNAL(Saved(QString)));
+        EXPECT_EQ(form->findChild<QLabel*>("mode")->text(), "เพิ่ม");
+        EXPECT_FALSE(box(form, c.keyField)->isReadOnly());
+        if (c.master()) {
+            EXPECT_EQ(box(form, c.keyField)->text(), "");
+            typeText(box(form, c.keyField), key);
+        } else {
+            EXPECT_EQ(box(form, c.keyField)->text(), key);
+        }
+        const QStringList columns = listOf(c.columns), values = listOf(c.values);
+        for (int i = 0; i < columns.size(); ++i)
+            retype(box(form, columns[i]), values[i]);
+        typeText(box(form, c.textField), QStringLiteral("เอกสารใหม่ของสมชาย"));
+        pressSave(form, c);
+        EXPECT_TRUE(criticals().isEmpty()) << criticals().join('\n').toStdString();
+        ASSERT_EQ(saved.count(), 1);
+        EXPECT_EQ(saved.first().first().toString(), key);
+        EXPECT_EQ(rowCount(c), before + 1);
+        EXPECT_EQ(cell(c, key, c.textField), "เอกสารใหม่ของสมชาย");
+        for (QLineEdit* branch : form->findChildren<QLineEdit*>()) {
+            if (branch->objectName().endsWith("TBraCode")) {
+                EXPECT_EQ(cell(c, key, branch->objectName()), branchOf("SOMCHAI"));
+            }
+        }
+        if (!c.master()) {
+            EXPECT_EQ(cell(c, key, QString(c.keyField).chopped(2) + "CreateBy"), "SOMCHAI");
+        }
+        // Saved, the form edits the new row under its key.
+        EXPECT_EQ(form->property("RUNMODE").toString(), "EDIT");
+        EXPECT_TRUE(box(form, c.keyField)->isReadOnly());
+        EXPECT_EQ(window->tabs()->tabText(window->tabs()->indexOf(form)), "รายการ - " + key);
+        window->closeForm(form);
+    }
+}
+
+TEST_P(DocumentFormTest, AddingADocumentFillsTodayAndThePickedCodes)
+{
+    logIn("SOMCHAI");
+    const FormCase& c = formCase("DOCPR");
+    QWidget* form = openAsList(c, "ADD", QString());
+    ASSERT_TRUE(form);
+    const QDate today = QDate::currentDate();
+    EXPECT_EQ(box(form, "TPRDDate")->text(), QStringLiteral("%1/%2/%3").arg(today.day(), 2, 10, QChar('0')).arg(today.month(), 2, 10, QChar('0')).arg(today.year() + 543));
+    scriptedPicker().answers = {"PJ02"};
+    QTest::keyClick(box(form, "TPRDTPrjCode"), Qt::Key_F2);
+    ASSERT_EQ(scriptedPicker().requests.size(), 1);
+    EXPECT_TRUE(scriptedPicker().requests[0].source.startsWith("QD8TProject"));
+    EXPECT_EQ(box(form, "TPRDTPrjCode")->text(), "PJ02");
+    Connection data;
+    data.open(dataConnectionString());
+    Recordset project;
+    project.open("SELECT TPrjName FROM QD8TProject WHERE TPrjCode='PJ02'", data);
+    EXPECT_EQ(form->findChild<QLabel*>("TPRDTPrjCodeName")->text(), project.text("TPrjName"));
+    retype(box(form, "TPRDDueDate"), "31/12/2569");
+    pressSave(form, c);
+    EXPECT_TRUE(criticals().isEmpty()) << criticals().join('\n').toStdString();
+    const QString key = box(form, "TPRDNo")->text();
+    EXPECT_EQ(cell(c, key, "TPRDTPrjCode"), "PJ02");
+    EXPECT_EQ(cell(c, key, "TPRDDate"), today.toString(Qt::ISODate));
+    EXPECT_EQ(cell(c, key, "TPRDDueDate"), "2026-12-31");
+}
+
+TEST_P(DocumentFormTest, SavingIsRefusedForABadKeyOrValueAndKeepsWhatWasTyped)
+{
+    logIn("SOMCHAI");
+    seed(formCase("DOCPR"), "PRTAKEN", "ของเดิม");
+    seed(formCase("MASTERCUSTOMER"), "TAKEN", "ลูกค้าเดิม");
+    const struct {
+        const char* form;
+        const char* key;     // typed over the proposal
+        const char* field;   // and one more field
+        const char* value;
+        const char* said;    // in the message
+    } cases[] = {
+        {"DOCPR", "", "TPRDRefNo", "REF-1", "เลขที่"},
+        {"DOCPR", "PRTAKEN", "TPRDRefNo", "REF-2", "PRTAKEN"},
+        {"MASTERCUSTOMER", "", "TARNTelephone", "02-111-2222", "รหัส"},
+        {"MASTERCUSTOMER", "TAKEN", "TARNTelephone", "02-333-4444", "TAKEN"},
+        {"DOCPR", "PRNEW", "TPRDDueDate", "31/02/2569", "31/02/2569"},
+        {"DOCSO", "SONEW", "TSODTARNCode", "NOSUCH", "NOSUCH"},
+        {"MASTERCUSTOMER", "NEW'1", "TARNTelephone", "02", "'"},
+    };
+    for (const auto& t : cases) {
+        SCOPED_TRACE(std::string(t.form) + " " + t.key + " " + t.field);
+        scriptedMessages().reset();
+        const FormCase& c = formCase(t.form);
+        const qsizetype before = rowCount(c);
+        QWidget* form = openAsList(c, "ADD", QString());
+        ASSERT_TRUE(form);
+        QSignalSpy saved(form, SIGNAL(Saved(QString)));
+        const QStringList columns = listOf(c.columns), values = listOf(c.values);
+        for (int i = 0; i < columns.size(); ++i)
+            retype(box(form, columns[i]), values[i]);
+        retype(box(form, c.keyField), QString::fromUtf8(t.key));
+        retype(box(form, c.textField), QStringLiteral("ที่พิมพ์ไว้"));
+        retype(box(form, t.field), QString::fromUtf8(t.value));
+        pressSave(form, c);
+        ASSERT_EQ(criticals().size(), 1);
+        EXPECT_TRUE(criticals()[0].contains(QString::fromUtf8(t.said))) << criticals()[0].toStdString();
+        EXPECT_EQ(saved.count(), 0);
+        EXPECT_EQ(rowCount(c), before);
+        EXPECT_EQ(form->property("RUNMODE").toString(), "ADD");
+        EXPECT_EQ(box(form, c.keyField)->text(), QString::fromUtf8(t.key));
+        EXPECT_EQ(box(form, c.textField)->text(), "ที่พิมพ์ไว้");
+        EXPECT_EQ(box(form, t.field)->text(), QString::fromUtf8(t.value));
+        window->closeForm(form);
+    }
+    EXPECT_EQ(cell(formCase("DOCPR"), "PRTAKEN", "TPRDDescription"), "ของเดิม");
+    EXPECT_EQ(cell(formCase("MASTERCUSTOMER"), "TAKEN", "TARNName"), "ลูกค้าเดิม");
+}
+
+TEST_P(DocumentFormTest, AChangeByAnotherUserIsReportedAndNeverOverwritten)
+{
+    logIn("SOMCHAI");
+    const FormCase& c = formCase("DOCSO");
+    const struct {
+        const char* meanwhile;
+        const char* description;  // what the table holds afterwards
+    } cases[] = {
+        {"UPDATE QD8TSO SET TSODDescription='แก้โดยคนอื่น' WHERE TSODNo='SO1'", "แก้โดยคนอื่น"},
+        {"UPDATE QD8TSO SET TSODRefNo='R-9' WHERE TSODNo='SO1'", "ต้นฉบับ"},
+        {"DELETE FROM QD8TSO WHERE TSODNo='SO1'", "<none>"},
+    };
+    for (const auto& t : cases) {
+        SCOPED_TRACE(t.meanwhile);
+        scriptedMessages().reset();
+        runOnData({"DELETE FROM QD8TSO"});
+        seed(c, "SO1", "ต้นฉบับ");
+        QWidget* form = openAsList(c, "EDIT", "SO1");
+        ASSERT_TRUE(form);
+        QSignalSpy saved(form, SIGNAL(Saved(QString)));
+        retype(box(form, "TSODDescription"), QStringLiteral("ของผู้ใช้คนนี้"));
+        runOnData({QString::fromUtf8(t.meanwhile)});
+        pressSave(form, c);
+        EXPECT_EQ(criticals().size(), 1);
+        EXPECT_EQ(saved.count(), 0);
+        EXPECT_EQ(cell(c, "SO1", "TSODDescription"), QString::fromUtf8(t.description));
+        EXPECT_EQ(box(form, "TSODDescription")->text(), "ของผู้ใช้คนนี้");
+        EXPECT_EQ(form->property("RUNMODE").toString(), "EDIT");
+        window->closeForm(form);
+    }
+}
+
+TEST_P(DocumentFormTest, EscapeClosesAndAsksFirstOnlyWhenSomethingIsUnsaved)
+{
+    logIn("SOMCHAI");
+    const FormCase& c = formCase("MASTERSUPPLIER");
+    seed(c, "S900", "ผู้จำหน่ายทดสอบ");
+    const struct {
+        const char* mode;
+        bool change;
+        QList<bool> answers;  // to the question, in turn; none: it must not ask
+        int escapes;          // presses until the form closes
+    } cases[] = {
+        {"VIEW", false, {}, 1},
+        {"EDIT", false, {}, 1},
+        {"ADD", false, {}, 1},
+        {"EDIT", true, {false, true}, 2},
+        {"ADD", true, {true}, 1},
+    };
+    for (const auto& t : cases) {
+        SCOPED_TRACE(std::string(t.mode) + (t.change ? " changed" : ""));
+        scriptedMessages().reset();
+        QWidget* form = openAsList(c, t.mode, t.mode == QLatin1String("ADD") ? QString() : QStringLiteral("S900"));
+        ASSERT_TRUE(form);
+        const int tabs = window->tabs()->count();
+        QSignalSpy closing(form, SIGNAL(CloseAction()));
+        if (t.change)
+            typeText(box(form, "TAPNTelephone"), "053-111222");
+        scriptedMessages().answers = t.answers;
+        for (int press = 1; press <= t.escapes; ++press) {
+            QTest::keyClick(box(form, "TAPNName"), Qt::Key_Escape);
+            EXPECT_EQ(closing.count(), press == t.escapes ? 1 : 0);
+        }
+        int asked = 0;
+        for (const auto& shown : scriptedMessages().shown)
+            asked += shown.kind == QLatin1String("question");
+        EXPECT_EQ(asked, t.answers.size());
+        EXPECT_EQ(window->tabs()->count(), tabs - 1);
+    }
+    EXPECT_EQ(cell(c, "S900", "TAPNTelephone"), "");
+}
+
+TEST_P(DocumentFormTest, EnterWalksTheWritableFieldsInTheUsersLanguage)
+{
+    logIn("JOHN");
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    const FormCase& c = formCase("DOCINVOICE");
+    seed(c, "IV1", "Invoice one");
+    QWidget* form = openAsList(c, "EDIT", "IV1");
+    ASSERT_TRUE(form);
+    EXPECT_EQ(form->findChild<QLabel*>("mode")->text(), "Edit");
+    EXPECT_EQ(box(form, "TIvoAmount")->accessibleName(), "Amount");
+    EXPECT_EQ(box(form, "TIvoAmount")->text(), "1,500.25");
+    EXPECT_EQ(box(form, "TIvoDate")->text(), "15/01/2026");
+    // From the first writable field to the last, skipping the key and the outstanding amount.
+    QStringList visited{QApplication::focusWidget()->objectName()};
+    for (int i = 0; i < 10 && qobject_cast<QLineEdit*>(QApplication::focusWidget()); ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        visited << QApplication::focusWidget()->objectName();
+    }
+    EXPECT_EQ(visited, QStringList({"TIvoDate", "TIvoDueDate", "TIvoTARNCode", "TIvoTBraCode", "TIvoAmount", "TIvoRefNo", "TIvoDescription",
+                           "save"}));
+    EXPECT_EQ(form->findChild<QLabel*>("TIvoTARNCodeName")->text(), "Siam Wholesale");
+
+    // A new invoice is wholly outstanding.
+    QWidget* added = openAsList(c, "ADD", "IV-HANDED-1");
+    ASSERT_TRUE(added);
+    EXPECT_EQ(box(added, "TIvoNo")->text(), "IV-HANDED-1");
+    EXPECT_EQ(box(added, "TIvoTBraCode")->text(), branchOf("JOHN"));
+    EXPECT_EQ(added->findChild<QLabel*>("mode")->text(), "Add");
+    retype(box(added, "TIvoTARNCode"), "QC901");
+    retype(box(added, "TIvoAmount"), "2,400.5");
+    pressSave(added, c);
+    EXPECT_TRUE(criticals().isEmpty()) << criticals().join('\n').toStdString();
+    EXPECT_EQ(cell(c, "IV-HANDED-1", "TIvoArrears"), cell(c, "IV-HANDED-1", "TIvoAmount"));
+    EXPECT_EQ(cell(c, "IV-HANDED-1", "TIvoAmount"), "2400.5");
+}
+
+TEST_P(DocumentFormTest, SwitchingTheLanguageReshowsAViewedRowAndKeepsAnEdit)
+{
+    logIn("SOMCHAI");
+    const FormCase& c = formCase("DOCPR");
+    seed(c, "PRLANG1", "ดูอย่างเดียว");
+    seed(c, "PRLANG2", "กำลังแก้ไข");
+    QWidget* viewed = openAsList(c, "VIEW", "PRLANG1");
+    QWidget* edited = openAsList(c, "EDIT", "PRLANG2");
+    ASSERT_TRUE(viewed && edited);
+    EXPECT_EQ(box(viewed, "TPRDDate")->text(), "15/01/2569");
+    retype(box(edited, "TPRDDescription"), "ยังไม่ได้บันทึก");
+    window->setLanguage(1);
+    EXPECT_EQ(box(viewed, "TPRDDate")->text(), "15/01/2026");
+    EXPECT_EQ(viewed->findChild<QLabel*>("mode")->text(), "View");
+    EXPECT_EQ(window->tabs()->tabText(window->tabs()->indexOf(viewed)), "Purchase Request - PRLANG1");
+    EXPECT_EQ(box(edited, "TPRDDescription")->text(), "ยังไม่ได้บันทึก");
+}
+
+QD8_ON_BOTH_ENGINES(DocumentFormTest);
+
+} // namespace
