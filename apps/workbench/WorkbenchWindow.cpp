@@ -153,6 +153,13 @@ void WorkbenchWindow::fillModules(const QString& module)
     m_modules->setCurrentIndex(index < 0 ? (m_modules->count() > 1 ? 1 : 0) : index);
 }
 
+WorkbenchWindow::SessionObjects WorkbenchWindow::sessionObjects(const HostedControl& control) const
+{
+    const WorkbenchSession& s = m_session;
+    return {std::make_shared<DbDataObject>(s.dataConnectionString, s.appConnectionString, s.userId, s.loginName),
+        std::make_shared<SessionAppObject>(control.session()), std::make_shared<DbClientObject>(s.sessionConnectionString, s.userId)};
+}
+
 void WorkbenchWindow::setUpControl(HostedControl& control, const QString& commandAlias, const QString& commandGroup)
 {
     // The session first (properties, then the session objects and SetLast2), then rights,
@@ -174,8 +181,8 @@ void WorkbenchWindow::setUpControl(HostedControl& control, const QString& comman
     control.setImageFolder(s.appPath + QStringLiteral("/Images"));
     control.setIconPath(s.iconPath());
     control.setCommandGroup(commandGroup);
-    control.SetFirst(std::make_shared<DbDataObject>(s.dataConnectionString, s.appConnectionString, s.userId, s.loginName),
-        std::make_shared<SessionAppObject>(control.session()), std::make_shared<DbClientObject>(s.sessionConnectionString, s.userId));
+    const auto [data, app, client] = sessionObjects(control);
+    control.SetFirst(data, app, client);
     control.SetLast2(s.appPath + QStringLiteral("/Users/") + s.loginName, commandAlias, QString::number(s.userId),
         s.dataConnectionString, s.appConnectionString);
     const auto rights = SessionServices::newCommandPermission();
@@ -301,7 +308,7 @@ void WorkbenchWindow::launch(const QString& shellFunction)
             m_tabs->setCurrentIndex(i);
             return;
         }
-    Command command{shellFunction, shellFunction, QString(), QString()};
+    Command command{shellFunction, shellFunction, QString(), QString(), QString()};
     if (shellFunction == QLatin1String("WINDOW:REPORTSEARCH")) {
         command.caption = text("ค้นหารายงาน", "Report Search");
     } else {
@@ -361,18 +368,13 @@ void WorkbenchWindow::openForm(const QString& formName, const Command& command)
 
 void WorkbenchWindow::loadControl(HostedControl& control, const Command& command)
 {
-    const WorkbenchSession& s = m_session;
-    const auto objects = [&] {
-        return std::make_tuple(std::make_shared<DbDataObject>(s.dataConnectionString, s.appConnectionString, s.userId, s.loginName),
-            std::make_shared<SessionAppObject>(control.session()), std::make_shared<DbClientObject>(s.sessionConnectionString, s.userId));
-    };
     if (auto* list = qobject_cast<DucumentList*>(&control)) {
-        auto [data, app, client] = objects();
+        const auto [data, app, client] = sessionObjects(control);
         list->SetFilter(command.alias, command.group, data, app, client, this, command.caption, command.caption);
         return;
     }
     if (auto* list = qobject_cast<MasterList*>(&control)) {
-        auto [data, app, client] = objects();
+        const auto [data, app, client] = sessionObjects(control);
         list->SetFilter(command.alias, command.group, data, app, client, this, command.caption, command.caption);
         return;
     }

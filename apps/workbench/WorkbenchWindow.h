@@ -6,6 +6,8 @@
 #include <QHash>
 #include <QMainWindow>
 #include <functional>
+#include <memory>
+#include <tuple>
 
 class QComboBox;
 class QLabel;
@@ -13,6 +15,9 @@ class QTabWidget;
 
 namespace qd8 {
 
+class AppObject;
+class ClientObject;
+class DataObject;
 class HostedControl;
 class NUVRibbon;
 class ShortCutBar;
@@ -86,6 +91,9 @@ private:
     };
     void buildStatusBar();
     void fillModules(const QString& module);
+    // The session objects a control is handed: data, application and client object.
+    using SessionObjects = std::tuple<std::shared_ptr<DataObject>, std::shared_ptr<AppObject>, std::shared_ptr<ClientObject>>;
+    SessionObjects sessionObjects(const HostedControl& control) const;
     void setUpControl(HostedControl& control, const QString& commandAlias, const QString& commandGroup);
     // Document and master lists load their definition and rows; other controls refresh.
     void loadControl(HostedControl& control, const Command& command);
