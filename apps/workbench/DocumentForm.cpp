@@ -162,7 +162,7 @@ DocumentField DocumentField::project(const QString& field)
     DocumentField f = code(field, QStringLiteral("โครงการ"), QStringLiteral("Project"), QStringLiteral("QD8TProject"), QStringLiteral("TPrjCode"),
         QStringLiteral("TPrjName{N}"));
     f.pickWhere = QStringLiteral("TPrjFlag1=1 ORDER BY TPrjCode");
-    return f;
+    return f.startsAs(Initial::UserProject);
 }
 
 DocumentField DocumentField::customer(const QString& field)
@@ -463,6 +463,24 @@ bool DocumentForm::hasChanges() const
     return false;
 }
 
+QString DocumentForm::defaultProject() const
+{
+    // The user's own project ("DefaultUserProject"), which his document lists start with.
+    if (DataConnectionString().isEmpty())
+        return {};
+    try {
+        Connection data;
+        data.open(DataConnectionString());
+        Recordset rs;
+        rs.open(Sql("SELECT TUsSValue FROM QD8TUserSetting WHERE TUsSTUsrID=") + qint64(UserID())
+                + " AND TUsSAlias='DefaultUserProject'",
+            data);
+        return rs.eof() ? QString() : rs.text(QStringLiteral("TUsSValue")).trimmed();
+    } catch (const DbError&) {
+        return {};  // no default: the clerk types the project
+    }
+}
+
 void DocumentForm::startNew()
 {
     clearEntries();
@@ -473,6 +491,8 @@ void DocumentForm::startNew()
             entry.box->setText(shownDate(QDate::currentDate(), LanguageID()));
         else if (entry.field.initial == DocumentField::Initial::UserBranch)
             entry.box->setText(branch);
+        else if (entry.field.initial == DocumentField::Initial::UserProject)
+            entry.box->setText(defaultProject());
         showName(entry);
     }
     QString key = m_newKey;
@@ -778,6 +798,8 @@ QString DocumentForm::writeNew(Connection& data, const QString& typedKey)
             if (copy.value() == entry.field.field)
                 rs.setField(copy.key(), value);
     }
+    for (auto fixed = m_definition.fixedOnAdd.cbegin(); fixed != m_definition.fixedOnAdd.cend(); ++fixed)
+        rs.setField(fixed.key(), fixed.value());
     setAudit(rs, "CreateBy", "CreateDate");
     rs.update();
     return key;

@@ -27,7 +27,7 @@ struct DocumentField {
         Code,    // a key of another table, F2 picks it
         Status   // a flag the workflow sets; shown, never written
     };
-    enum class Initial { None, Today, UserBranch };
+    enum class Initial { None, Today, UserBranch, UserProject };
 
     QString field;
     QString caption;   // Thai
@@ -82,6 +82,9 @@ struct DocumentDefinition {
     // Columns a new row starts with the value of a field: column -> field (an invoice
     // is wholly outstanding when it is added).
     QHash<QString, QString> copiedOnAdd;
+    // Columns a new row starts with a fixed value: column -> value (the kind of a stock
+    // document, which its list selects by).
+    QHash<QString, QString> fixedOnAdd;
 
     bool isMaster() const { return numberPrefix.isEmpty(); }
     // The confirm, approve and cancel flags of a document table ("<prefix>ConfirmStatus"...).
@@ -157,6 +160,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QString defaultProject() const;
     struct Entry {
         DocumentField field;
         QLabel* label = nullptr;

@@ -29,7 +29,7 @@ DocumentDefinition document(const char* title, const char* title2, const char* t
     const QString stem = QString::fromLatin1(prefix);
     const QString key = stem + QStringLiteral("No");
     DocumentDefinition d{QString::fromUtf8(title), QString::fromUtf8(title2), QString::fromLatin1(table), key, QStringLiteral("เลขที่"),
-        QStringLiteral("No."), QString::fromLatin1(number), stem, {}, {}};
+        QStringLiteral("No."), QString::fromLatin1(number), stem, {}, {}, {}};
     d.fields << DocumentField::date(stem + QStringLiteral("Date"), QStringLiteral("วันที่"), QStringLiteral("Date"))
                     .mandatory()
                     .startsAs(DocumentField::Initial::Today)
@@ -43,7 +43,7 @@ DocumentDefinition document(const char* title, const char* title2, const char* t
 DocumentDefinition master(const char* title, const char* title2, const char* table, const char* key, const QList<DocumentField>& fields)
 {
     return {QString::fromUtf8(title), QString::fromUtf8(title2), QString::fromLatin1(table), QString::fromLatin1(key), QStringLiteral("รหัส"),
-        QStringLiteral("Code"), QString(), QString(), fields, {}};
+        QStringLiteral("Code"), QString(), QString(), fields, {}, {}};
 }
 
 void registerDocumentForms()
@@ -71,11 +71,13 @@ void registerDocumentForms()
             F::money("TIvoArrears", QStringLiteral("ยอดค้างชำระ"), QStringLiteral("Outstanding")).shownOnly()});
     invoice.copiedOnAdd.insert(QStringLiteral("TIvoArrears"), QStringLiteral("TIvoAmount"));
     registerDocument(QStringLiteral("DOCINVOICE"), invoice);
-    registerDocument(QStringLiteral("DOCISSUE"),
-        document("ใบเบิกสินค้า", "Goods Issue", "QD8TInventory", "TInv", "IS",
-            {F::branch("TInvTBraCode"), F::project("TInvTPrjCode"),
-                F::code("TInvTJobNo", QStringLiteral("ใบสั่งงาน"), QStringLiteral("Job"), QStringLiteral("QD8TJob"), QStringLiteral("TJobNo"),
-                    QStringLiteral("TJobDescription"))}));
+    // A goods issue is an inventory document of the kind ICISSUEUSE, requested by an employee.
+    DocumentDefinition issue = document("ใบเบิกสินค้า", "Goods Issue", "QD8TInventory", "TInv", "IS",
+        {F::branch("TInvTBraCode"), F::employee("TInvTEmpCode", QStringLiteral("ผู้เบิก"), QStringLiteral("Requested by")), F::project("TInvTPrjCode"),
+            F::code("TInvTJobNo", QStringLiteral("ใบสั่งงาน"), QStringLiteral("Job"), QStringLiteral("QD8TJob"), QStringLiteral("TJobNo"),
+                QStringLiteral("TJobDescription"))});
+    issue.fixedOnAdd.insert(QStringLiteral("TInvTCodAlias"), QStringLiteral("ICISSUEUSE"));
+    registerDocument(QStringLiteral("DOCISSUE"), issue);
 
     registerDocument(QStringLiteral("MASTERCUSTOMER"),
         master("ลูกค้า", "Customer", "QD8TAR", "TARNCode",

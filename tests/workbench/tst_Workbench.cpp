@@ -1,6 +1,7 @@
 #include "support/SampleCompany.h"
 #include "support/ScriptedServices.h"
 
+#include "DocumentForm.h"
 #include "ListPrinter.h"
 #include "TableListForm.h"
 #include "WorkbenchForms.h"
@@ -306,6 +307,27 @@ TEST_P(WorkbenchTest, AClerkFiltersADocumentListAndOpensADocumentInEachMode)
     Q_EMIT list->dataView()->addRequested();
     ASSERT_EQ(window->tabs()->count(), tabs + 2);
     EXPECT_EQ(window->tabs()->currentWidget()->property("RUNMODE").toString(), "ADD");
+}
+
+TEST_P(WorkbenchTest, AGoodsIssueAddedFromItsListIsListedAfterTheSave)
+{
+    auto window = open("JOHN", "IC");  // John sees the issues of employee types 01 and 02 only
+    window->launch(QStringLiteral("ICISSUEUSE"));
+    auto* list = qobject_cast<DucumentList*>(window->tabs()->currentWidget());
+    ASSERT_TRUE(list);
+    list->findChild<QComboBox*>("cboStatus")->setCurrentIndex(0);
+    Q_EMIT list->dataView()->addRequested();
+    auto* form = qobject_cast<DocumentForm*>(window->tabs()->currentWidget());
+    ASSERT_TRUE(form);
+    form->box("TInvTEmpCode")->setText("E002");
+    form->box("TInvDescription")->setText("เบิกวัสดุสำนักงาน");
+    ASSERT_TRUE(form->save());
+    const QString key = form->keyBox()->text();
+    QStringList listed;
+    list->dataView()->fetchAll();
+    for (int row = 0; row < list->dataView()->fetchedRows(); ++row)
+        listed << list->dataView()->value(row, "TInvNo").toString();
+    EXPECT_TRUE(listed.contains(key)) << key.toStdString() << " " << list->selectText().text().toStdString();
 }
 
 QD8_ON_BOTH_ENGINES(WorkbenchTest);
