@@ -135,7 +135,11 @@ bool ListControl::loadDefinition(const QString& iCommandAlias, const QString& iC
         if (m_prefix.isEmpty())
             m_prefix = ListDefinition::prefixOfKey(m_def.PKey);
         m_placeholders = std::make_unique<CaptionPlaceholders>(dataObject(), DataConnectionString());
-        m_def.NameList = ReplaceCustomCaption(m_def.NameList);
+        // Captions may name the company's custom fields ({Custom1}, {MRPGROUPCAPTION} ...).
+        for (QString* caption : {&m_def.NameList, &m_def.Filter2Caption, &m_def.Filter3Caption, &m_def.FilterEmpLabel,
+                 &m_def.FilterDateCaption, &m_def.FilterArrearCaption, &m_def.FilterInvArrearCaption, &m_def.FilterStatusCaptions,
+                 &m_def.FilterStatusCaptions2, &m_def.OrderList, &m_def.DeleteActionCaption})
+            *caption = ReplaceCustomCaption(*caption);
         m_legend.load(m_def.LegendList, m_prefix);
         if (dataObject())
             m_legend.readOptions(*dataObject());

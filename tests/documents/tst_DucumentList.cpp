@@ -12,6 +12,8 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -354,6 +356,51 @@ TEST_P(DucumentListTest, AMissingDefinitionShowsNoColumnsAndRunsNoQuery)
     EXPECT_TRUE(list.selectText().text().isEmpty());
     for (const QString& statement : trace.composed())
         EXPECT_FALSE(statement.startsWith("SELECT COUNT") || statement.contains("FROM QD8TPR")) << statement.toStdString();
+}
+
+TEST_P(DucumentListTest, CaptionsNameTheCompanysCustomFields)
+{
+    runOnApp({"UPDATE QD8TFormDocList SET TFDLNameList='เลขที่,วันที่,{ICCustom1},ยืนยัน,อนุมัติ,ยกเลิก', TFDLOrderList='{ICCustom1},วันที่' "
+              "WHERE TFDLTCmdAlias='TESTPR'"});
+    runOnData({"DELETE FROM QD8TOptionValue WHERE TOpVTOptAlias='ICCUSTOM1'",
+        "INSERT INTO QD8TOptionValue (TOpVScope, TOpVScopeKey, TOpVTOptAlias, TOpVValue, TOpVNumber) VALUES ('COMPANY', '', 'ICCUSTOM1', 'สี', 0)"});
+    DucumentList list;
+    open(list, "TESTPR");
+    EXPECT_EQ(list.NameList(), "เลขที่,วันที่,สี,ยืนยัน,อนุมัติ,ยกเลิก");
+    EXPECT_EQ(list.dataView()->tableView()->model()->headerData(2, Qt::Horizontal).toString(), "สี");
+    EXPECT_EQ(list.findChild<QComboBox*>("cboSort")->itemText(0), "สี");
+}
+
+TEST_P(DucumentListTest, LegendColoursTheRowsAndTheAutoButtonTogglesTheTimer)
+{
+    const struct {
+        const char* autoRefresh;
+        bool running;
+    } timers[] = {{"", false}, {"0", false}, {"30", true}, {"1", true}};
+    for (const auto& t : timers) {
+        SCOPED_TRACE(t.autoRefresh);
+        runOnApp({QStringLiteral("UPDATE QD8TFormDocList SET TFDLAutoRefresh='%1', TFDLLegendList='TPRDCancelStatus;=;1;#C0C0C0;;ยกเลิก,"
+                                 "TPRDApproveStatus;=;1;#C8F0C8;;อนุมัติแล้ว' WHERE TFDLTCmdAlias='TESTPR'")
+                .arg(QLatin1String(t.autoRefresh))});
+        DucumentList list;
+        open(list, "TESTPR");
+        choose(list, "cboStatus", AllDocuments);
+        list.runQuery();
+        auto* button = list.findChild<QPushButton*>("Command1");
+        EXPECT_EQ(list.autoRefreshRunning(), t.running);
+        EXPECT_EQ(button->text(), t.running ? "Stop" : "Auto");
+        button->click();
+        EXPECT_EQ(list.autoRefreshRunning(), !t.running);
+        EXPECT_EQ(button->text(), t.running ? "Auto" : "Stop");
+
+        // PR06 approved, PR07 cancelled, PR08 both: the first entry wins.
+        QAbstractItemModel* model = list.dataView()->tableView()->model();
+        const auto colour = [&](int row) { return model->index(row, 0).data(Qt::BackgroundRole).value<QBrush>().color(); };
+        EXPECT_FALSE(model->index(0, 0).data(Qt::BackgroundRole).isValid());
+        EXPECT_EQ(colour(5), QColor("#C8F0C8"));
+        EXPECT_EQ(colour(6), QColor("#C0C0C0"));
+        EXPECT_EQ(colour(7), QColor("#C0C0C0"));
+    }
 }
 
 QD8_ON_BOTH_ENGINES(DucumentListTest);
