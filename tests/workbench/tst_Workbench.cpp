@@ -9,6 +9,7 @@
 #include "WorkbenchWindow.h"
 #include "database/SessionFunctions.h"
 #include "documents/DucumentList.h"
+#include "documents/MasterList.h"
 #include "editors/QuickGrid.h"
 #include "widgets/DataView.h"
 #include "foundation/Connection.h"
@@ -328,6 +329,26 @@ TEST_P(WorkbenchTest, AGoodsIssueAddedFromItsListIsListedAfterTheSave)
     for (int row = 0; row < list->dataView()->fetchedRows(); ++row)
         listed << list->dataView()->value(row, "TInvNo").toString();
     EXPECT_TRUE(listed.contains(key)) << key.toStdString() << " " << list->selectText().text().toStdString();
+}
+
+TEST_P(WorkbenchTest, AClerkSearchesCustomersAndEditsOne)
+{
+    auto window = open("JOHN", "AR");
+    window->launch(QStringLiteral("ARCUSTOMER"));
+    auto* list = qobject_cast<MasterList*>(window->tabs()->currentWidget());
+    ASSERT_TRUE(list);
+    auto* search = list->findChild<QLineEdit*>("txtSearch");
+    search->setText("chiang");  // an English name in lower case, on both engines
+    QTest::keyClick(search, Qt::Key_Return);
+    list->dataView()->fetchAll();
+    ASSERT_EQ(list->dataView()->fetchedRows(), 1) << list->selectText().text().toStdString();
+    EXPECT_EQ(list->dataView()->keyText(), "C001");
+    Q_EMIT list->dataView()->editRequested();
+    auto* form = qobject_cast<DocumentForm*>(window->tabs()->currentWidget());
+    ASSERT_TRUE(form);
+    EXPECT_EQ(form->property("RUNMODE").toString(), "EDIT");
+    EXPECT_EQ(form->property("MasterCode").toString(), "C001");
+    EXPECT_EQ(form->keyBox()->text(), "C001");
 }
 
 QD8_ON_BOTH_ENGINES(WorkbenchTest);
