@@ -95,6 +95,7 @@ void DucumentList::readSessionChoices()
     m_hrFilter = 0;
     m_projectFilterOn = false;
     m_defaultProject.clear();
+    m_salesman.clear();
     try {
         m_hrFilter = SessionServices::listService()
                          .LookupValue(0, QStringLiteral("TCmdAlias"), CommandAlias(), QStringLiteral("TCmdHRFilter"),
@@ -110,6 +111,10 @@ void DucumentList::readSessionChoices()
             data);
         if (!rs.eof())
             m_defaultProject = rs.text(QStringLiteral("TUsSValue")).trimmed();
+        m_salesman = SessionServices::listService()
+                         .LookupValue(QString(), QStringLiteral("TUsrID"), UserID(), QStringLiteral("TUsrTEmpCode"),
+                             QStringLiteral("QD8TUser"), DataConnectionString())
+                         .toString();
     } catch (const DbError& e) {
         reportError(e.message());
     }
@@ -256,20 +261,44 @@ void DucumentList::buildPanel()
     m_grid->setContentsMargins(0, 0, 0, 0);
     m_cell = 0;
     panelLayout()->addWidget(m_panel);
-    const ListDefinition& d = m_def;
+    // The boxes in the order their conditions are written.
+    addStatusBoxes();
+    addDateBoxes();
+    addPartyBoxes();
+    addCheckBoxes();
+    addCodeBoxes();
+    addSortAndSelect();
+    applyBackDays();
+}
 
+DucumentList::Picker DucumentList::codePicker(const QString& title, const QString& keyField, const QString& nameField, const QString& source)
+{
+    return [=, this](QLineEdit* box) {
+        const QString code = source.isEmpty() ? pickFromQuickForm(m_def.Filter1) : pickCode(title, keyField, nameField, source);
+        if (!code.isEmpty()) {
+            box->setText(code);
+            SendKeys(QStringLiteral("{TAB}"));  // the pick moves on to the next box
+        }
+    };
+}
+
+void DucumentList::addStatusBoxes()
+{
+    const ListDefinition& d = m_def;
     m_statusCodes = splitList(d.FilterStatus);
-    QStringList statusCaptions = splitList(d.FilterStatusCaptions);
+    QStringList captions = splitList(d.FilterStatusCaptions);
     if (m_statusCodes.isEmpty())
         m_statusCodes = {QString()};
-    while (statusCaptions.size() < m_statusCodes.size())
-        statusCaptions << (statusCaptions.isEmpty() ? QStringLiteral("All") : m_statusCodes[statusCaptions.size()]);
-    statusCaptions = statusCaptions.mid(0, m_statusCodes.size());
-    m_status = addCombo("cboStatus", tr2("สถานะ", "Status"), statusCaptions, d.DefaultFilter);
-    m_status2 = d.FilterStatus2.isEmpty()
-        ? nullptr
-        : addCombo("Combo1", tr2("สถานะ 2", "Status 2"), splitList(d.FilterStatusCaptions2), 0);
+    while (captions.size() < m_statusCodes.size())
+        captions << (captions.isEmpty() ? QStringLiteral("All") : m_statusCodes[captions.size()]);
+    m_status = addCombo("cboStatus", tr2("สถานะ", "Status"), captions.mid(0, m_statusCodes.size()), d.DefaultFilter);
+    m_status2 = d.FilterStatus2.isEmpty() ? nullptr
+                                          : addCombo("Combo1", tr2("สถานะ 2", "Status 2"), splitList(d.FilterStatusCaptions2), 0);
+}
 
+void DucumentList::addDateBoxes()
+{
+    const ListDefinition& d = m_def;
     m_backDays = nullptr;
     if (d.filterBackDate && !d.BACKDAYLIST.isEmpty()) {
         QStringList captions;
@@ -281,68 +310,50 @@ void DucumentList::buildPanel()
     m_dateFrom = addDateBox("txtDateFrom", tr2("จากวันที่", "From date"));
     m_dateTo = addDateBox("txtDateTo", tr2("ถึงวันที่", "To date"));
     m_deliveryDate = d.FilterDeliveryDate.isEmpty() ? nullptr : addDateBox("txtDeliveryDate", tr2("กำหนดส่งถึง", "Delivery by"));
+}
 
-    const QString name = QStringLiteral("TARNName") + nameSuffix();
+void DucumentList::addPartyBoxes()
+{
+    const ListDefinition& d = m_def;
     QString customers = QStringLiteral("QD8TAR INNER JOIN QD8TAR2 ON QD8TAR.TARNCode = QD8TAR2.TAR2TARNCode WHERE TARNCode<>''");
     if (d.FilterARByEmp != 0)
-        customers += QStringLiteral(" AND TAR2SaleCode='") + SessionServices::listService()
-                         .LookupValue(QString(), QStringLiteral("TUsrID"), UserID(), QStringLiteral("TUsrTEmpCode"),
-                             QStringLiteral("QD8TUser"), DataConnectionString())
-                         .toString() + QLatin1Char('\'');
-    const auto picker = [this](const QString& title, const QString& key, const QString& nameField, const QString& source) {
-        return [=, this](QLineEdit* box) {
-            const QString code = pickCode(title, key, nameField, source);
-            if (!code.isEmpty()) {
-                box->setText(code);
-                SendKeys(QStringLiteral("{TAB}"));  // the pick moves on to the next box
-            }
-        };
-    };
+        customers += QStringLiteral(" AND TAR2SaleCode='") + m_salesman + QLatin1Char('\'');
     m_customer = addBox("txtCustomer", tr2("ลูกค้า", "Customer"), d.FilterAR,
-        picker(tr2("ลูกค้า", "Customers"), QStringLiteral("TARNCode"), name, customers));
+        codePicker(tr2("ลูกค้า", "Customers"), QStringLiteral("TARNCode"), QStringLiteral("TARNName") + nameSuffix(), customers));
     m_supplier = addBox("txtSupplier", tr2("ผู้จำหน่าย", "Supplier"), d.FilterAP,
-        picker(tr2("ผู้จำหน่าย", "Suppliers"), QStringLiteral("TAPNCode"), QStringLiteral("TAPNName") + nameSuffix(),
+        codePicker(tr2("ผู้จำหน่าย", "Suppliers"), QStringLiteral("TAPNCode"), QStringLiteral("TAPNName") + nameSuffix(),
             QStringLiteral("QD8TAP")));
     m_employee = addBox("txtEmployee", d.FilterEmpLabel.isEmpty() ? QStringLiteral("พนักงานอ้างอิง") : d.FilterEmpLabel,
         d.FilterEmployee,
-        picker(tr2("พนักงาน", "Employees"), QStringLiteral("TEmpCode"), QStringLiteral("TEmpFullName") + nameSuffix(),
+        codePicker(tr2("พนักงาน", "Employees"), QStringLiteral("TEmpCode"), QStringLiteral("TEmpFullName") + nameSuffix(),
             QStringLiteral("QD8TEmployee")));
+}
 
-    m_arrearOnly = nullptr;
-    m_invArrearOnly = nullptr;
-    if (!d.FilterArrear.isEmpty()) {
-        m_arrearOnly = new QCheckBox(d.FilterArrearCaption.isEmpty() ? tr2("ค้างเท่านั้น", "Outstanding only") : d.FilterArrearCaption, m_panel);
-        m_arrearOnly->setObjectName(QStringLiteral("chkArrearOnly"));
-        m_arrearOnly->setAccessibleName(m_arrearOnly->text());
-        m_grid->addWidget(m_arrearOnly, m_cell / PanelColumns, (m_cell % PanelColumns) * 2, 1, 2);
-        ++m_cell;
-    }
-    if (!d.FilterInvArrear.isEmpty()) {
-        m_invArrearOnly = new QCheckBox(
-            d.FilterInvArrearCaption.isEmpty() ? tr2("ค้างออกใบแจ้งหนี้", "Not invoiced only") : d.FilterInvArrearCaption, m_panel);
-        m_invArrearOnly->setObjectName(QStringLiteral("chkInvArrearOnly"));
-        m_invArrearOnly->setAccessibleName(m_invArrearOnly->text());
-        m_grid->addWidget(m_invArrearOnly, m_cell / PanelColumns, (m_cell % PanelColumns) * 2, 1, 2);
-        ++m_cell;
-    }
+void DucumentList::addCheckBoxes()
+{
+    const ListDefinition& d = m_def;
+    m_arrearOnly = d.FilterArrear.isEmpty()
+        ? nullptr
+        : addCheck("chkArrearOnly", d.FilterArrearCaption.isEmpty() ? tr2("ค้างเท่านั้น", "Outstanding only") : d.FilterArrearCaption);
+    m_invArrearOnly = d.FilterInvArrear.isEmpty() ? nullptr
+                                                  : addCheck("chkInvArrearOnly", d.FilterInvArrearCaption.isEmpty()
+                                                          ? tr2("ค้างออกใบแจ้งหนี้", "Not invoiced only")
+                                                          : d.FilterInvArrearCaption);
+}
 
+void DucumentList::addCodeBoxes()
+{
+    const ListDefinition& d = m_def;
     const QString dateCaption = d.FilterDateCaption.isEmpty() ? d.FilterDate : d.FilterDateCaption;
     m_date2From = d.FilterDate.isEmpty() ? nullptr : addDateBox("txtDate2From", dateCaption + tr2(" จาก", " from"));
     m_date2To = d.FilterDate.isEmpty() ? nullptr : addDateBox("txtDate2To", dateCaption + tr2(" ถึง", " to"));
     m_division = addBox("txtDivision", tr2("ฝ่าย", "Division"), d.FilterDivision,
-        picker(tr2("ฝ่าย", "Divisions"), QStringLiteral("TDivCode"), QStringLiteral("TDivName") + nameSuffix(),
+        codePicker(tr2("ฝ่าย", "Divisions"), QStringLiteral("TDivCode"), QStringLiteral("TDivName") + nameSuffix(),
             QStringLiteral("QD8TDivision")));
-    const QString filter1Field = filter1KeyField();
-    m_filter1 = addBox("txtFilter1", filter1Caption(), filter1Field.isEmpty() ? QString() : d.Filter1,
-        [this](QLineEdit* box) {
-            const QString code = pickFromQuickForm(m_def.Filter1);
-            if (!code.isEmpty()) {
-                box->setText(code);
-                SendKeys(QStringLiteral("{TAB}"));
-            }
-        });
+    m_filter1 = addBox("txtFilter1", filter1Caption(), filter1KeyField().isEmpty() ? QString() : d.Filter1,
+        codePicker(QString(), QString(), QString(), QString()));
     m_project = addBox("txtProject", tr2("โครงการ", "Project"), m_projectFilterOn ? d.FilterProject : QString(),
-        picker(tr2("โครงการ", "Projects"), QStringLiteral("TPrjCode"), QStringLiteral("TPrjName") + nameSuffix(),
+        codePicker(tr2("โครงการ", "Projects"), QStringLiteral("TPrjCode"), QStringLiteral("TPrjName") + nameSuffix(),
             QStringLiteral("QD8TProject")));
     if (m_project) {
         m_project->setText(m_defaultProject);
@@ -350,34 +361,49 @@ void DucumentList::buildPanel()
     }
     const bool program = d.FilterProductM != 0;
     m_product = addBox("txtProduct", program ? QStringLiteral("โปรแกรม") : tr2("สินค้า", "Product"), d.FilterProduct,
-        picker(program ? QStringLiteral("โปรแกรม") : tr2("สินค้า", "Products"), QStringLiteral("TPdtCode"), QStringLiteral("TPdtName"),
+        codePicker(program ? QStringLiteral("โปรแกรม") : tr2("สินค้า", "Products"), QStringLiteral("TPdtCode"), QStringLiteral("TPdtName"),
             program ? QStringLiteral("QD8TProduct WHERE TPdtTPTTCode='PROGRAM'") : QStringLiteral("QD8TProduct")));
     struct GroupList { const char* caption; const char* key; const char* name; const char* table; };
     static const GroupList groups[] = {{"หมวด", "TPSECode", "TPSEName", "QD8TProductSection"},
         {"กลุ่ม", "TPG1Code", "TPG1Name", "QD8TProductGroup"}, {"สาย", "TPDLCode", "TPDLName", "QD8TProductLine"}};
     const GroupList& group = groups[qBound(0, d.FilterProductT, 2)];
     m_productGroup = addBox("txtProductGroup", QString::fromUtf8(group.caption), d.FilterProductG,
-        picker(QString::fromUtf8(group.caption), QString::fromLatin1(group.key), QString::fromLatin1(group.name),
+        codePicker(QString::fromUtf8(group.caption), QString::fromLatin1(group.key), QString::fromLatin1(group.name),
             QString::fromLatin1(group.table)));
     m_filter2 = addBox("txtFilter2", d.Filter2Caption.isEmpty() ? d.FILTER2 : d.Filter2Caption, d.FILTER2);
     m_filter3 = addBox("txtFilter3", d.Filter3Caption.isEmpty() ? d.FILTER3 : d.Filter3Caption, d.FILTER3);
     m_branch = addBox("txtBranch", tr2("สาขา", "Branch"), Prefix().isEmpty() ? QString() : Prefix() + QStringLiteral("TBraCode"),
-        picker(tr2("สาขา", "Branches"), QStringLiteral("TBraCode"), QStringLiteral("TBraName") + nameSuffix(),
+        codePicker(tr2("สาขา", "Branches"), QStringLiteral("TBraCode"), QStringLiteral("TBraName") + nameSuffix(),
             QStringLiteral("QD8TBranch")));
+}
 
-    QStringList sortCaptions = splitList(d.OrderList);
-    m_sort = sortCaptions.isEmpty() ? nullptr : addCombo("cboSort", tr2("เรียงตาม", "Sort by"), sortCaptions, d.DefaultOrder);
-
+void DucumentList::addSortAndSelect()
+{
+    const QStringList captions = splitList(m_def.OrderList);
+    m_sort = captions.isEmpty() ? nullptr : addCombo("cboSort", tr2("เรียงตาม", "Sort by"), captions, m_def.DefaultOrder);
     auto* selectButton = new QPushButton(tr2("เลือก", "Select"), m_panel);
     selectButton->setObjectName(QStringLiteral("cmdSelect"));
     selectButton->setAccessibleName(selectButton->text());
     connect(selectButton, &QPushButton::clicked, this, &DucumentList::select);
-    m_grid->addWidget(selectButton, m_cell / PanelColumns, (m_cell % PanelColumns) * 2, 1, 2);
-    ++m_cell;
-    applyBackDays();
+    addWide(selectButton);
 }
 
-QLineEdit* DucumentList::addBox(const char* name, const QString& caption, const QString& field, std::function<void(QLineEdit*)> pick)
+QCheckBox* DucumentList::addCheck(const char* name, const QString& caption)
+{
+    auto* check = new QCheckBox(caption, m_panel);
+    check->setObjectName(QString::fromLatin1(name));
+    check->setAccessibleName(caption);
+    addWide(check);
+    return check;
+}
+
+void DucumentList::addWide(QWidget* widget)
+{
+    m_grid->addWidget(widget, m_cell / PanelColumns, (m_cell % PanelColumns) * 2, 1, 2);
+    ++m_cell;
+}
+
+QLineEdit* DucumentList::addBox(const char* name, const QString& caption, const QString& field, Picker pick)
 {
     if (field.isEmpty())
         return nullptr;

@@ -90,10 +90,23 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    using Picker = std::function<void(QLineEdit*)>;
+
     void readSessionChoices();
     void buildPanel();
-    QLineEdit* addBox(const char* name, const QString& caption, const QString& field,
-        std::function<void(QLineEdit*)> pick = {});
+    void addStatusBoxes();
+    void addDateBoxes();
+    void addPartyBoxes();
+    void addCheckBoxes();
+    void addCodeBoxes();
+    void addSortAndSelect();
+    // F2 in a box: the pick list of `source` (the Filter1 quick form when it is ""); a pick
+    // fills the box and moves on.
+    Picker codePicker(const QString& title, const QString& keyField, const QString& nameField, const QString& source);
+    QLineEdit* addBox(const char* name, const QString& caption, const QString& field, Picker pick = {});
+    QCheckBox* addCheck(const char* name, const QString& caption);
+    // A widget across one label/box pair of the panel.
+    void addWide(QWidget* widget);
     QLineEdit* addDateBox(const char* name, const QString& caption);
     QComboBox* addCombo(const char* name, const QString& caption, const QStringList& captions, int current);
     void applyBackDays();
@@ -105,6 +118,7 @@ private:
     int m_hrFilter = 0;
     bool m_projectFilterOn = false;
     QString m_defaultProject;
+    QString m_salesman;  // the user's employee code, for the customers of FilterARByEmp
     QStringList m_statusCodes;
 
     QWidget* m_panel = nullptr;
@@ -132,7 +146,7 @@ private:
     QLineEdit* m_filter2 = nullptr;
     QLineEdit* m_filter3 = nullptr;
     QLineEdit* m_branch = nullptr;
-    QHash<QObject*, std::function<void(QLineEdit*)>> m_pickers;
+    QHash<QObject*, Picker> m_pickers;
 };
 
 } // namespace qd8

@@ -10,6 +10,7 @@
 #include "widgets/FormCollection.h"
 #include "widgets/FormRegistry.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -356,6 +357,42 @@ TEST_P(DucumentListTest, AMissingDefinitionShowsNoColumnsAndRunsNoQuery)
     EXPECT_TRUE(list.selectText().text().isEmpty());
     for (const QString& statement : trace.composed())
         EXPECT_FALSE(statement.startsWith("SELECT COUNT") || statement.contains("FROM QD8TPR")) << statement.toStdString();
+}
+
+TEST_P(DucumentListTest, F2InACodeBoxPicksFromItsTableAndMovesOn)
+{
+    define("TESTSO", "TFDLFilterStatus, TFDLFilterAR, TFDLFilterARByEmp, TFDLFilter1", "'', 'TPRDRefNo', 1, 'BRANCH'");
+    const struct {
+        const char* box;
+        const char* keyField;
+        const char* source;
+    } cases[] = {
+        {"txtCustomer", "TARNCode",
+            "QD8TAR INNER JOIN QD8TAR2 ON QD8TAR.TARNCode = QD8TAR2.TAR2TARNCode WHERE TARNCode<>'' AND TAR2SaleCode='E001'"},
+        {"txtBranch", "TBraCode", "QD8TBranch"},
+        {"txtFilter1", "TBraCode", nullptr},  // the quick form's own pick list
+    };
+    DucumentList list;
+    open(list, "TESTSO");
+    list.show();
+    list.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&list));
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.box);
+        scriptedPicker().reset();
+        scriptedPicker().answers = {"P1"};
+        auto* box = list.findChild<QLineEdit*>(QString::fromLatin1(c.box));
+        ASSERT_TRUE(box);
+        box->setFocus();
+        QTest::keyClick(box, Qt::Key_F2);
+        ASSERT_EQ(scriptedPicker().requests.size(), 1);
+        EXPECT_EQ(scriptedPicker().requests[0].keyField, QString::fromLatin1(c.keyField));
+        if (c.source) {
+            EXPECT_EQ(scriptedPicker().requests[0].source, QString::fromUtf8(c.source));
+        }
+        EXPECT_EQ(box->text(), "P1");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() != box; }, 2000));  // the pick moved on
+    }
 }
 
 TEST_P(DucumentListTest, CaptionsNameTheCompanysCustomFields)
