@@ -169,8 +169,12 @@ void ListControl::applyDefinitionToView()
     m_view->setButtonVisible(DataView::Button::View, shown('V'));
     m_view->setButtonVisible(DataView::Button::Delete, shown('D') && m_def.DeleteActionMode == 2);
     m_view->setButtonVisible(DataView::Button::Close, shown('C'));
-    if (!m_def.DeleteActionCaption.isEmpty())
-        m_view->setButtonCaption(DataView::Button::Delete, m_def.DeleteActionCaption);
+    m_view->setButtonCaption(DataView::Button::Add, tr2("เพิ่ม", "Add"));
+    m_view->setButtonCaption(DataView::Button::Edit, tr2("แก้ไข", "Edit"));
+    m_view->setButtonCaption(DataView::Button::View, tr2("ดู", "View"));
+    m_view->setButtonCaption(DataView::Button::Delete,
+        m_def.DeleteActionCaption.isEmpty() ? tr2("ลบ", "Delete") : m_def.DeleteActionCaption);
+    m_view->setButtonCaption(DataView::Button::Close, tr2("ปิด", "Close"));
 
     m_timer->stop();
     if (autoRefreshOn(m_def.AutoRefresh))
