@@ -34,7 +34,7 @@ struct Column {
 
 using ColumnsOf = QList<Column> (*)(const QString& prefix, const Pools& pools);
 
-struct ListSpec {
+struct GeneratedList {
     const char* alias;
     const char* table;
     const char* prefix;
@@ -149,7 +149,7 @@ QList<Column> stockIssueColumns(const QString& p, const Pools& pools)
     };
 }
 
-const ListSpec Lists[] = {
+const GeneratedList Lists[] = {
     {"PURPR", "QD8TPR", "TPRD", "PR", purchaseRequestColumns,
         {"ขอซื้อกระดาษถ่ายเอกสาร", "Office supplies", "ขอซื้อวัสดุซ่อมบำรุง", "Spare parts for the warehouse",
             "ขอซื้ออุปกรณ์คอมพิวเตอร์", "Packing materials"}},
@@ -167,11 +167,11 @@ const ListSpec Lists[] = {
             "เบิกสินค้าตัวอย่าง", "Cleaning supplies"}},
 };
 
-const ListSpec* specOf(const QString& listAlias)
+const GeneratedList* generatedList(const QString& listAlias)
 {
-    for (const ListSpec& spec : Lists)
-        if (listAlias.compare(QLatin1String(spec.alias), Qt::CaseInsensitive) == 0)
-            return &spec;
+    for (const GeneratedList& list : Lists)
+        if (listAlias.compare(QLatin1String(list.alias), Qt::CaseInsensitive) == 0)
+            return &list;
     return nullptr;
 }
 
@@ -207,12 +207,12 @@ Pools readPools(Connection& connection)
 
 // The highest number of the list's form (prefix + 7 digits) already in the table; 0 when
 // there is none.
-qint64 lastNumber(Connection& connection, const ListSpec& spec)
+qint64 lastNumber(Connection& connection, const GeneratedList& list)
 {
-    const QString no = QLatin1String(spec.prefix) + QStringLiteral("No");
-    const QString prefix = QLatin1String(spec.numberPrefix);
+    const QString no = QLatin1String(list.prefix) + QStringLiteral("No");
+    const QString prefix = QLatin1String(list.numberPrefix);
     Recordset rs;
-    rs.open(Sql("SELECT MAX(") + no + ") AS LastNo FROM " + spec.table + " WHERE " + no + " LIKE "
+    rs.open(Sql("SELECT MAX(") + no + ") AS LastNo FROM " + list.table + " WHERE " + no + " LIKE "
             + quoted(prefix + QString(NumberDigits, QLatin1Char('_'))) + " AND " + no + " >= "
             + quoted(prefix + QString(NumberDigits, QLatin1Char('0'))) + " AND " + no + " <= "
             + quoted(prefix + QString(NumberDigits, QLatin1Char('9'))),
@@ -223,13 +223,13 @@ qint64 lastNumber(Connection& connection, const ListSpec& spec)
     bool ok = false;
     const qint64 number = last.mid(prefix.size()).toLongLong(&ok);
     if (!ok)
-        throw DbError(DbError::Kind::Usage, QStringLiteral("Cannot number documents after %1 in %2").arg(last, QLatin1String(spec.table)));
+        throw DbError(DbError::Kind::Usage, QStringLiteral("Cannot number documents after %1 in %2").arg(last, QLatin1String(list.table)));
     return number;
 }
 
-QString documentNo(const ListSpec& spec, qint64 number)
+QString documentNo(const GeneratedList& list, qint64 number)
 {
-    return QLatin1String(spec.numberPrefix) + QString::number(number).rightJustified(NumberDigits, QLatin1Char('0'));
+    return QLatin1String(list.numberPrefix) + QString::number(number).rightJustified(NumberDigits, QLatin1Char('0'));
 }
 
 // The document date `days` (an expression) after `start`, as the engine counts days.
@@ -241,18 +241,18 @@ Sql dayAfter(Engine engine, const QDate& start, const Sql& days)
     return Sql("date(") + QString::number(start.toJulianDay() - 0.5, 'f', 1) + " + " + days + ")";
 }
 
-QList<Column> commonColumns(const ListSpec& spec, const Pools& pools, Engine engine, const QDate& start, qint64 rows,
+QList<Column> commonColumns(const GeneratedList& list, const Pools& pools, Engine engine, const QDate& start, qint64 rows,
     qint64 firstNumber)
 {
-    const QString p = QLatin1String(spec.prefix);
+    const QString p = QLatin1String(list.prefix);
     // The newest document is dated today, the oldest about three years back.
     const Sql day = Sql("(") + (SpanDays - 1) + " - (" + rows + " - i) * " + SpanDays + " / " + rows + ")";
     Sql description = Sql("CASE (i % 6)");
     for (int k = 0; k < 6; ++k)
-        description += Sql(" WHEN ") + k + " THEN " + quoted(QString::fromUtf8(spec.descriptions[k]));
+        description += Sql(" WHEN ") + k + " THEN " + quoted(QString::fromUtf8(list.descriptions[k]));
     description += " END";
     QList<Column> columns = {
-        {p + "No", quoted(QLatin1String(spec.numberPrefix)) + " || substr(CAST(" + (qint64(10000000) + firstNumber - 1)
+        {p + "No", quoted(QLatin1String(list.numberPrefix)) + " || substr(CAST(" + (qint64(10000000) + firstNumber - 1)
                 + " + i AS VARCHAR(8)), 2)"},
         {p + "Date", dayAfter(engine, start, day)},
         {p + "DueDate", dayAfter(engine, start, day + " + 7 + (i % 24)")},
@@ -261,18 +261,18 @@ QList<Column> commonColumns(const ListSpec& spec, const Pools& pools, Engine eng
         {p + "CreateBy", pick(pools.users, 0, 1)},
         {p + "CreateDate", dayAfter(engine, start, day)},
     };
-    columns << statusColumns(p) << spec.columns(p, pools);
+    columns << statusColumns(p) << list.columns(p, pools);
     return columns;
 }
 
-Sql insertStatement(const ListSpec& spec, const QList<Column>& columns, Engine engine, qint64 rows)
+Sql insertStatement(const GeneratedList& list, const QList<Column>& columns, Engine engine, qint64 rows)
 {
     Sql names, values;
     for (const Column& column : columns) {
         names += Sql(names.text().isEmpty() ? "" : ", ") + column.name;
         values += Sql(values.text().isEmpty() ? "" : ", ") + column.value;
     }
-    Sql insert = Sql("INSERT INTO ") + spec.table + " (" + names + ") ";
+    Sql insert = Sql("INSERT INTO ") + list.table + " (" + names + ") ";
     if (engine == Engine::PostgreSQL)
         return insert + "SELECT " + values + " FROM generate_series(CAST(1 AS BIGINT), " + rows + ") AS n(i)";
     return insert + "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " + rows + ") SELECT " + values
@@ -284,15 +284,15 @@ Sql insertStatement(const ListSpec& spec, const QList<Column>& columns, Engine e
 QStringList DocumentGenerator::listAliases()
 {
     QStringList aliases;
-    for (const ListSpec& spec : Lists)
-        aliases << QLatin1String(spec.alias);
+    for (const GeneratedList& list : Lists)
+        aliases << QLatin1String(list.alias);
     return aliases;
 }
 
 QString DocumentGenerator::tableOf(const QString& listAlias)
 {
-    const ListSpec* spec = specOf(listAlias);
-    return spec ? QLatin1String(spec->table) : QString();
+    const GeneratedList* list = generatedList(listAlias);
+    return list ? QLatin1String(list->table) : QString();
 }
 
 DocumentGenerator::DocumentGenerator(const QString& dataConnectionString, const QDate& today)
@@ -302,27 +302,27 @@ DocumentGenerator::DocumentGenerator(const QString& dataConnectionString, const 
 
 DocumentGenerator::Outcome DocumentGenerator::generate(const QString& listAlias, qint64 rows)
 {
-    const ListSpec* spec = specOf(listAlias);
-    if (!spec)
+    const GeneratedList* list = generatedList(listAlias);
+    if (!list)
         throw DbError(DbError::Kind::Usage, QStringLiteral("No document list %1 to generate documents for").arg(listAlias));
     if (rows <= 0)
         throw DbError(DbError::Kind::Usage, QStringLiteral("The number of documents must be above 0"));
     Connection connection;
     connection.open(m_connectionString);
     connection.beginTrans();
-    const qint64 first = lastNumber(connection, *spec) + 1;
+    const qint64 first = lastNumber(connection, *list) + 1;
     if (first + rows - 1 > LargestNumber) {
         connection.rollbackTrans();
         throw DbError(DbError::Kind::Usage, QStringLiteral("%1 documents after %2 would need more than %3 digits")
                                                 .arg(rows)
-                                                .arg(documentNo(*spec, first - 1))
+                                                .arg(documentNo(*list, first - 1))
                                                 .arg(NumberDigits));
     }
-    const QList<Column> columns = commonColumns(*spec, readPools(connection), connection.engine(),
+    const QList<Column> columns = commonColumns(*list, readPools(connection), connection.engine(),
         m_today.addDays(-(SpanDays - 1)), rows, first);
-    const qint64 written = connection.execute(insertStatement(*spec, columns, connection.engine(), rows));
+    const qint64 written = connection.execute(insertStatement(*list, columns, connection.engine(), rows));
     connection.commitTrans();
-    return {QLatin1String(spec->table), written, documentNo(*spec, first), documentNo(*spec, first + rows - 1)};
+    return {QLatin1String(list->table), written, documentNo(*list, first), documentNo(*list, first + rows - 1)};
 }
 
 } // namespace qd8
