@@ -302,9 +302,10 @@ TEST_P(SampleListsTest, EveryListCommandHasADefinitionAndTheVariantHasItsOption)
         // A variant is reached through the option <base>Menu of its base command.
         const QString base = alias.endsWith(QLatin1String("MB")) ? alias.chopped(2) : QString();
         EXPECT_TRUE(command || !base.isEmpty()) << alias.toStdString() << " is opened by no command";
-        if (!base.isEmpty())
+        if (!base.isEmpty()) {
             EXPECT_EQ(lookup(QStringLiteral("SELECT TOptTOpGAlias FROM QD8TOption WHERE TOptAlias='%1Menu'").arg(base)), "DOCLIST")
                 << alias.toStdString();
+        }
     }
 }
 
