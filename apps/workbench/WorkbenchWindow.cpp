@@ -18,12 +18,14 @@
 #include "navigation/DocumentToolBar.h"
 #include "navigation/NUVRibbon.h"
 #include "navigation/ShortCutBar.h"
+#include "widgets/DataView.h"
 #include "widgets/FormRegistry.h"
 #include "widgets/Ribbon.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QDockWidget>
 #include <QLabel>
 #include <QListWidget>
@@ -555,6 +557,13 @@ QStringList WorkbenchWindow::saveScreenshots(const QString& folder)
         const int index = m_tabs->currentIndex();
         if (index < 0 || tabCommand(index) != name)
             continue;
+        // A list's total comes back from its own connection: the picture shows it.
+        if (auto* list = m_tabs->widget(index)->findChild<DataView*>()) {
+            QElapsedTimer waited;
+            waited.start();
+            while (list->totalRows() < 0 && waited.elapsed() < 2000)
+                QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        }
         QString file = name;
         file.replace(QRegularExpression(QStringLiteral("[^A-Za-z0-9_-]")), QStringLiteral("_"));
         files << savePicture(QDir(folder).filePath(file + QStringLiteral(".png")));
