@@ -158,4 +158,27 @@ int readAllLibpq(pg_conn* connection, const char* sql)
     return rows;
 }
 
+namespace {
+
+QtMessageHandler defaultHandler = nullptr;
+
+void quietHandler(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (!message.contains(QLatin1String("propagateSizeHints")))
+        defaultHandler(type, context, message);
+}
+
+} // namespace
+
+void useOffscreenPlatform()
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+void quietOffscreenWarnings()
+{
+    defaultHandler = qInstallMessageHandler(quietHandler);
+}
+
 } // namespace qd8::bench

@@ -46,6 +46,11 @@ struct Ratio {
 //   title: ours 12.3 ms, floor 10.1 ms, ratio 1.22 (target <= 2.0)
 int runAndReport(int argc, char** argv, const std::vector<Ratio>& ratios);
 
+// Widget benchmarks: the offscreen platform unless another is named (before the
+// QApplication), and its size-hint warning kept out of the figures (after it).
+void useOffscreenPlatform();
+void quietOffscreenWarnings();
+
 // One engine's share of a data benchmark: its database (already holding what `fill` put
 // there) and the prefix its benchmark names take ("sqlite/", "postgres/").
 struct EngineRun {

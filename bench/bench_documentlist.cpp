@@ -288,23 +288,13 @@ QString peakMemoryOfWalk(const Target& t)
                        .arg(walkMb <= 300 ? QString() : QStringLiteral("  OVER TARGET"));
 }
 
-QtMessageHandler defaultHandler = nullptr;
-
-// The offscreen platform warns about size hints for every window shown.
-void quietHandler(QtMsgType type, const QMessageLogContext& context, const QString& message)
-{
-    if (!message.contains(QLatin1String("propagateSizeHints")))
-        defaultHandler(type, context, message);
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    useOffscreenPlatform();
     QApplication app(argc, argv);
-    defaultHandler = qInstallMessageHandler(quietHandler);
+    quietOffscreenWarnings();
     if (argc == 3 && qstrcmp(argv[1], "--walk") == 0)
         return walkInChild(QString::fromUtf8(argv[2]));
 

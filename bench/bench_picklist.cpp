@@ -200,23 +200,13 @@ void plainFilter(benchmark::State& state, const QString& needle)
     }
 }
 
-QtMessageHandler defaultHandler = nullptr;
-
-// The offscreen platform warns about size hints for every window shown.
-void quietHandler(QtMsgType type, const QMessageLogContext& context, const QString& message)
-{
-    if (!message.contains(QLatin1String("propagateSizeHints")))
-        defaultHandler(type, context, message);
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    useOffscreenPlatform();
     QApplication app(argc, argv);
-    defaultHandler = qInstallMessageHandler(quietHandler);
+    quietOffscreenWarnings();
     sqliteDb = BenchDatabase::sqlite();
     fill(*sqliteDb, QStringLiteral("QD8TBenchItem"), BigRows);
     fill(*sqliteDb, QStringLiteral("QD8TBenchSmall"), SmallRows);

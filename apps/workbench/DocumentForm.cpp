@@ -2,6 +2,7 @@
 
 #include "database/ClientObject.h"
 #include "database/ListService.h"
+#include "database/SessionFunctions.h"
 #include "database/SessionServices.h"
 #include "foundation/Connection.h"
 #include "foundation/DbError.h"
@@ -469,13 +470,7 @@ QString DocumentForm::defaultProject() const
     if (DataConnectionString().isEmpty())
         return {};
     try {
-        Connection data;
-        data.open(DataConnectionString());
-        Recordset rs;
-        rs.open(Sql("SELECT TUsSValue FROM QD8TUserSetting WHERE TUsSTUsrID=") + qint64(UserID())
-                + " AND TUsSAlias='DefaultUserProject'",
-            data);
-        return rs.eof() ? QString() : rs.text(QStringLiteral("TUsSValue")).trimmed();
+        return DbSessionFunctions::userSettingText(UserID(), QStringLiteral("DefaultUserProject"), DataConnectionString()).trimmed();
     } catch (const DbError&) {
         return {};  // no default: the clerk types the project
     }

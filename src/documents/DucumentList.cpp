@@ -4,6 +4,7 @@
 #include "database/DataObject.h"
 #include "database/ListService.h"
 #include "database/PermissionObject.h"
+#include "database/SessionFunctions.h"
 #include "database/SessionServices.h"
 #include "foundation/CommaList.h"
 #include "foundation/Connection.h"
@@ -103,14 +104,8 @@ void DucumentList::readSessionChoices()
                          .toInt();
         if (dataObject())
             m_projectFilterOn = dataObject()->optionNumber(QStringLiteral("EnableProjectFilter")) != 0;
-        Connection data;
-        data.open(DataConnectionString());
-        Recordset rs;
-        rs.open(Sql("SELECT TUsSValue FROM QD8TUserSetting WHERE TUsSTUsrID=") + qint64(UserID())
-                + " AND TUsSAlias='DefaultUserProject'",
-            data);
-        if (!rs.eof())
-            m_defaultProject = rs.text(QStringLiteral("TUsSValue")).trimmed();
+        m_defaultProject =
+            DbSessionFunctions::userSettingText(UserID(), QStringLiteral("DefaultUserProject"), DataConnectionString()).trimmed();
         m_salesman = SessionServices::listService()
                          .LookupValue(QString(), QStringLiteral("TUsrID"), UserID(), QStringLiteral("TUsrTEmpCode"),
                              QStringLiteral("QD8TUser"), DataConnectionString())

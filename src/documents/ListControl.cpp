@@ -134,7 +134,7 @@ bool ListControl::loadDefinition(const QString& iCommandAlias, const QString& iC
         m_def.WidthList = ListDefinition::costWidths(m_def.WidthList, permission());
         if (m_prefix.isEmpty())
             m_prefix = ListDefinition::prefixOfKey(m_def.PKey);
-        m_placeholders = std::make_unique<CaptionPlaceholders>(dataObject(), DataConnectionString());
+        m_placeholders.reset();  // options of this session, read again
         // Captions may name the company's custom fields ({Custom1}, {MRPGROUPCAPTION} ...).
         for (QString* caption : {&m_def.NameList, &m_def.Filter2Caption, &m_def.Filter3Caption, &m_def.FilterEmpLabel,
                  &m_def.FilterDateCaption, &m_def.FilterArrearCaption, &m_def.FilterInvArrearCaption, &m_def.FilterStatusCaptions,
@@ -276,29 +276,31 @@ PermissionObject* ListControl::permission()
     return m_permission.get();
 }
 
-QString ListControl::ReplaceCustomCaption(const QString& iText)
+CaptionPlaceholders& ListControl::placeholders()
 {
     if (!m_placeholders)
         m_placeholders = std::make_unique<CaptionPlaceholders>(dataObject(), DataConnectionString());
-    return m_placeholders->ReplaceCustomCaption(iText);
+    return *m_placeholders;
+}
+
+QString ListControl::ReplaceCustomCaption(const QString& iText)
+{
+    return placeholders().ReplaceCustomCaption(iText);
 }
 
 QDate ListControl::ReplaceDateValue(const QString& iText)
 {
-    ReplaceCustomCaption(QString());
-    return m_placeholders->ReplaceDateValue(iText);
+    return placeholders().ReplaceDateValue(iText);
 }
 
 double ListControl::ReplaceValue(const QString& iText)
 {
-    ReplaceCustomCaption(QString());
-    return m_placeholders->ReplaceValue(iText);
+    return placeholders().ReplaceValue(iText);
 }
 
 QString ListControl::ReplaceTextValue(const QString& iText)
 {
-    ReplaceCustomCaption(QString());
-    return m_placeholders->ReplaceTextValue(iText);
+    return placeholders().ReplaceTextValue(iText);
 }
 
 QString ListControl::pickCode(const QString& title, const QString& keyField, const QString& nameField, const QString& source)

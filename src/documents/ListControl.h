@@ -170,6 +170,8 @@ private:
     void buildView();
     void applyDefinitionToView();
     void showLegend();
+    // The placeholder expansion of the session, made when first asked for.
+    CaptionPlaceholders& placeholders();
     void readFilter1();
     void openForm(const QString& mode, const QString& key);
     void onAdd();
