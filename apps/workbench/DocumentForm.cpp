@@ -307,11 +307,6 @@ void DocumentForm::addEntry(const DocumentField& field)
     m_entries << entry;
 }
 
-QString DocumentForm::text(const char* thai, const char* english) const
-{
-    return QString::fromUtf8(LanguageID() == 0 ? thai : english);
-}
-
 QString DocumentForm::pickName(const DocumentField& field) const
 {
     return QString(field.pickName).replace(QStringLiteral("{N}"), nameSuffix());
@@ -324,17 +319,17 @@ QString DocumentForm::shownCaption(const DocumentField& field) const
 
 void DocumentForm::retranslate()
 {
-    const QString title = LanguageID() == 0 ? m_definition.title : m_definition.title2;
+    const QString title = inLanguage(LanguageID(), m_definition.title, m_definition.title2);
     m_title->setText(title);
     m_title->setAccessibleName(title);
-    const QString mode = adding() ? text("เพิ่ม", "Add") : editing() ? text("แก้ไข", "Edit") : text("ดู", "View");
+    const QString mode = adding() ? bilingual("เพิ่ม", "Add") : editing() ? bilingual("แก้ไข", "Edit") : bilingual("ดู", "View");
     m_modeLabel->setText(mode);
-    m_modeLabel->setAccessibleName(text("โหมด", "Mode"));
-    m_status->setAccessibleName(text("สถานะ", "Status"));
-    m_save->setText(text("บันทึก (Ctrl+S)", "Save (Ctrl+S)"));
-    m_save->setAccessibleName(text("บันทึก", "Save"));
-    m_close->setText(text("ปิด (Esc)", "Close (Esc)"));
-    m_close->setAccessibleName(text("ปิด", "Close"));
+    m_modeLabel->setAccessibleName(bilingual("โหมด", "Mode"));
+    m_status->setAccessibleName(bilingual("สถานะ", "Status"));
+    m_save->setText(bilingual("บันทึก (Ctrl+S)", "Save (Ctrl+S)"));
+    m_save->setAccessibleName(bilingual("บันทึก", "Save"));
+    m_close->setText(bilingual("ปิด (Esc)", "Close (Esc)"));
+    m_close->setAccessibleName(bilingual("ปิด", "Close"));
     for (Entry& entry : m_entries) {
         const QString caption = shownCaption(entry.field);
         if (entry.check) {
@@ -345,8 +340,8 @@ void DocumentForm::retranslate()
         entry.label->setText(caption);
         entry.box->setAccessibleName(caption);
         if (entry.name) {
-            entry.box->setToolTip(text("F2 เลือกจากรายการ", "F2 picks from a list"));
-            entry.name->setAccessibleName(caption + text(" ชื่อ", " name"));
+            entry.box->setToolTip(bilingual("F2 เลือกจากรายการ", "F2 picks from a list"));
+            entry.name->setAccessibleName(caption + bilingual(" ชื่อ", " name"));
         }
     }
 }
@@ -412,9 +407,9 @@ void DocumentForm::Refresh()
 
 QString DocumentForm::caption() const
 {
-    const QString title = LanguageID() == 0 ? m_definition.title : m_definition.title2;
+    const QString title = inLanguage(LanguageID(), m_definition.title, m_definition.title2);
     const QString key = keyBox()->text().trimmed();
-    return title + QStringLiteral(" - ") + (key.isEmpty() ? text("เพิ่ม", "New") : key);
+    return title + QStringLiteral(" - ") + (key.isEmpty() ? bilingual("เพิ่ม", "New") : key);
 }
 
 QLineEdit* DocumentForm::box(const QString& field) const
@@ -535,7 +530,7 @@ void DocumentForm::loadRow()
         rs.open(Sql("SELECT * FROM ") + m_definition.table + " WHERE " + m_definition.keyField + "=" + quoted(key), data);
         if (rs.eof()) {
             keyBox()->setText(key);
-            Services::messages().critical(m_title->text(), text("ไม่พบ %1 %2", "%1 %2 was not found").arg(shownCaption(m_entries.first().field), key));
+            Services::messages().critical(m_title->text(), bilingual("ไม่พบ %1 %2", "%1 %2 was not found").arg(shownCaption(m_entries.first().field), key));
         } else {
             showRow(rs);
         }
@@ -581,7 +576,7 @@ void DocumentForm::showName(Entry& entry)
     try {
         const QVariant name = SessionServices::listService().LookupValue(QVariant(), entry.field.pickKey, code, pickName(entry.field),
             entry.field.pickTable, DataConnectionString());
-        entry.name->setText(name.isValid() ? qd8::text(name) : text("ไม่พบรหัสนี้", "Unknown code"));
+        entry.name->setText(name.isValid() ? qd8::text(name) : bilingual("ไม่พบรหัสนี้", "Unknown code"));
     } catch (const DbError&) {
         entry.name->clear();  // a name is a help only; the code is checked when saving
     }
@@ -596,7 +591,7 @@ void DocumentForm::pick(Entry& entry)
     QString code;
     try {
         code = SessionServices::listService().PickFromList(shownCaption(f), f.pickKey, f.pickKey + QLatin1Char(',') + pickName(f),
-            text("รหัส,ชื่อ", "Code,Name"), QStringLiteral("1800,5000"), QStringLiteral("0,0"), source, DataConnectionString(), 0, 0, 0, 1, 0, 0);
+            bilingual("รหัส,ชื่อ", "Code,Name"), QStringLiteral("1800,5000"), QStringLiteral("0,0"), source, DataConnectionString(), 0, 0, 0, 1, 0, 0);
     } catch (const DbError& error) {
         Services::messages().critical(shownCaption(f), error.message());
         return;
@@ -682,7 +677,7 @@ void DocumentForm::requestClose()
 {
     if (hasChanges()
         && !Services::messages().question(m_title->text(),
-            text("มีข้อมูลที่ยังไม่ได้บันทึก ต้องการปิดโดยไม่บันทึกใช่หรือไม่", "There are changes that are not saved. Close without saving?")))
+            bilingual("มีข้อมูลที่ยังไม่ได้บันทึก ต้องการปิดโดยไม่บันทึกใช่หรือไม่", "There are changes that are not saved. Close without saving?")))
         return;
     Q_EMIT CloseAction();
     if (isWindow())
@@ -698,18 +693,18 @@ QString DocumentForm::problem() const
         const QString caption = shownCaption(entry.field);
         if (typed.isEmpty()) {
             if (entry.field.required)
-                return text("กรุณาระบุ %1", "Please enter %1").arg(caption);
+                return bilingual("กรุณาระบุ %1", "Please enter %1").arg(caption);
             continue;
         }
         const bool composed = entry.field.kind == DocumentField::Kind::Code || entry.field.field == m_definition.keyField;
         if (composed && typed.contains(QLatin1Char('\'')))
-            return text("%1 ต้องไม่มีเครื่องหมาย '", "%1 must not contain '").arg(caption);
+            return bilingual("%1 ต้องไม่มีเครื่องหมาย '", "%1 must not contain '").arg(caption);
         if (entry.field.kind == DocumentField::Kind::Date && !typedDate(typed).isValid())
-            return text("%1: วันที่ไม่ถูกต้อง (วว/ดด/ปปปป) %2", "%1: not a date (dd/mm/yyyy) %2").arg(caption, typed);
+            return bilingual("%1: วันที่ไม่ถูกต้อง (วว/ดด/ปปปป) %2", "%1: not a date (dd/mm/yyyy) %2").arg(caption, typed);
         if (entry.field.kind == DocumentField::Kind::Number && !typedNumber(typed))
-            return text("%1: ตัวเลขไม่ถูกต้อง %2", "%1: not a number %2").arg(caption, typed);
+            return bilingual("%1: ตัวเลขไม่ถูกต้อง %2", "%1: not a number %2").arg(caption, typed);
         if (entry.field.kind == DocumentField::Kind::Money && !Currency::parse(withoutSeparators(typed)))
-            return text("%1: จำนวนเงินไม่ถูกต้อง %2", "%1: not an amount %2").arg(caption, typed);
+            return bilingual("%1: จำนวนเงินไม่ถูกต้อง %2", "%1: not an amount %2").arg(caption, typed);
     }
     return {};
 }
@@ -726,7 +721,7 @@ QString DocumentForm::missingCode(Connection& data) const
         rs.open(Sql("SELECT ") + entry.field.pickKey + " FROM " + entry.field.pickTable + " WHERE " + entry.field.pickKey + "=" + quoted(code),
             data);
         if (rs.eof())
-            return text("ไม่พบ%1 %2", "There is no %1 %2").arg(shownCaption(entry.field), code);
+            return bilingual("ไม่พบ%1 %2", "There is no %1 %2").arg(shownCaption(entry.field), code);
     }
     return {};
 }
@@ -779,7 +774,7 @@ QString DocumentForm::writeNew(Connection& data, const QString& typedKey)
     }
     if (!rs.eof())
         throw DbError(DbError::Kind::Conflict,
-            text("%1 %2 มีอยู่แล้ว บันทึกซ้ำไม่ได้", "%1 %2 already exists and cannot be added again").arg(shownCaption(m_entries.first().field), key));
+            bilingual("%1 %2 มีอยู่แล้ว บันทึกซ้ำไม่ได้", "%1 %2 already exists and cannot be added again").arg(shownCaption(m_entries.first().field), key));
     rs.addNew();
     rs.setField(m_definition.keyField, key);
     for (const Entry& entry : m_entries) {
@@ -818,10 +813,10 @@ void DocumentForm::writeChanges(Connection& data)
     rs.open(Sql("SELECT * FROM ") + m_definition.table + " WHERE " + m_definition.keyField + "=" + quoted(key), data, Recordset::adOpenKeyset,
         Recordset::adLockOptimistic);
     if (rs.eof())
-        throw DbError(DbError::Kind::Conflict, text("ผู้ใช้อื่นลบ %1 %2 ไปแล้ว", "Another user deleted %1 %2").arg(caption, key));
+        throw DbError(DbError::Kind::Conflict, bilingual("ผู้ใช้อื่นลบ %1 %2 ไปแล้ว", "Another user deleted %1 %2").arg(caption, key));
     if (!conflictWith(rs).isEmpty())
         throw DbError(DbError::Kind::Conflict,
-            text("ผู้ใช้อื่นแก้ไข %1 %2 ไปแล้วหลังจากที่ท่านเปิด", "Another user changed %1 %2 after you opened it").arg(caption, key));
+            bilingual("ผู้ใช้อื่นแก้ไข %1 %2 ไปแล้วหลังจากที่ท่านเปิด", "Another user changed %1 %2 after you opened it").arg(caption, key));
     bool changed = false;
     for (const Entry& entry : m_entries) {
         if (!entry.box || entry.box->isReadOnly() || entry.box->text() == entry.clean)
@@ -842,7 +837,7 @@ bool DocumentForm::save()
     auto& messages = Services::messages();
     const QString title = m_title->text();
     if (editing() && !m_loaded) {
-        messages.critical(title, text("ยังไม่ได้เปิดข้อมูลที่จะแก้ไข", "Nothing is loaded to edit"));
+        messages.critical(title, bilingual("ยังไม่ได้เปิดข้อมูลที่จะแก้ไข", "Nothing is loaded to edit"));
         return false;
     }
     const QString bad = problem();
@@ -873,7 +868,7 @@ bool DocumentForm::save()
         }
     } catch (const DbError& error) {
         messages.critical(title, error.message() + QLatin1Char('\n')
-                + text("ข้อมูลที่ท่านป้อนยังอยู่ในฟอร์ม ไม่ได้บันทึก", "What you entered is still in the form; nothing was saved."));
+                + bilingual("ข้อมูลที่ท่านป้อนยังอยู่ในฟอร์ม ไม่ได้บันทึก", "What you entered is still in the form; nothing was saved."));
         return false;
     }
     afterSave(key);
@@ -894,7 +889,7 @@ void DocumentForm::afterSave(const QString& key)
         const QString head = shown.contains(QLatin1String(" - ")) ? shown.section(QStringLiteral(" - "), 0, -2) : m_title->text();
         setWindowTitle(head + QStringLiteral(" - ") + key);
     }
-    setStatusText(text("บันทึก %1 แล้ว", "Saved %1").arg(key));
+    setStatusText(bilingual("บันทึก %1 แล้ว", "Saved %1").arg(key));
     Q_EMIT Saved(key);
 }
 

@@ -175,7 +175,6 @@ private:
     void setNewKey(const QString& key);
     bool adding() const { return m_mode == QLatin1String("ADD"); }
     bool editing() const { return m_mode == QLatin1String("EDIT"); }
-    QString text(const char* thai, const char* english) const;
     QString shownCaption(const DocumentField& field) const;
     QString pickName(const DocumentField& field) const;
     void retranslate();

@@ -62,12 +62,12 @@ QString TableListForm::withSuffix(QString text) const
 
 QString TableListForm::caption() const
 {
-    return LanguageID() == 0 ? m_definition.title : m_definition.title2;
+    return inLanguage(LanguageID(), m_definition.title, m_definition.title2);
 }
 
 QString TableListForm::captionList() const
 {
-    return LanguageID() == 0 ? m_definition.captions : m_definition.captions2;
+    return inLanguage(LanguageID(), m_definition.captions, m_definition.captions2);
 }
 
 QString TableListForm::statement() const
@@ -112,7 +112,7 @@ void TableListForm::Refresh()
         Services::messages().critical(caption(), error.message());
     }
     m_table->resizeColumnsToContents();
-    m_total->setText(QStringLiteral("%1 %2").arg(m_table->rowCount()).arg(LanguageID() == 0 ? QStringLiteral("รายการ") : QStringLiteral("rows")));
+    m_total->setText(QStringLiteral("%1 %2").arg(m_table->rowCount()).arg(bilingual("รายการ", "rows")));
     if (m_table->rowCount() > 0)
         m_table->selectRow(0);
 }

@@ -12,6 +12,7 @@
 #include "foundation/Connection.h"
 #include "foundation/ConnectionString.h"
 #include "foundation/DbError.h"
+#include "foundation/Language.h"
 #include "foundation/Recordset.h"
 #include "foundation/Services.h"
 #include "navigation/CommandCatalogue.h"
@@ -101,7 +102,7 @@ WorkbenchWindow::~WorkbenchWindow() = default;
 
 QString WorkbenchWindow::text(const char* thai, const char* english) const
 {
-    return QString::fromUtf8(m_session.languageId == 0 ? thai : english);
+    return inLanguage(m_session.languageId, thai, english);
 }
 
 void WorkbenchWindow::registerDeleter(const QString& commandAlias, Deleter deleter)

@@ -4,6 +4,7 @@
 
 #include "foundation/Connection.h"
 #include "foundation/DbError.h"
+#include "foundation/Language.h"
 #include "foundation/Recordset.h"
 #include "foundation/Values.h"
 
@@ -78,7 +79,7 @@ CaptionOverrides readOverrides(const QString& centreConnectionString, const QStr
 QString DbSessionFunctions::GetCommandCaption(int languageId, const QString&, const QString& commandCentreConnectionString,
     const QString& alias, int, const QString& name, const QString& name2, const QString& reportNo)
 {
-    QString caption = languageId == 0 ? name : name2;
+    QString caption = inLanguage(languageId, name, name2);
     if (!commandCentreConnectionString.isEmpty() && !alias.isEmpty()) {
         // An override is optional: a missing or unreadable command centre leaves the name.
         try {
@@ -91,7 +92,7 @@ QString DbSessionFunctions::GetCommandCaption(int languageId, const QString&, co
                 one = readOverrides(commandCentreConnectionString, alias);
             const auto found = overrides->constFind(alias);
             if (found != overrides->constEnd()) {
-                const QString override = languageId == 0 ? found->first : found->second;
+                const QString override = inLanguage(languageId, found->first, found->second);
                 if (!override.isEmpty())
                     caption = override;
             }
@@ -99,7 +100,7 @@ QString DbSessionFunctions::GetCommandCaption(int languageId, const QString&, co
         }
     }
     if (caption.isEmpty())
-        caption = languageId == 0 ? name2 : name;
+        caption = inLanguage(languageId, name2, name);
     const QString number = reportNo.trimmed();
     if (!number.isEmpty() && number != QLatin1String("0"))
         caption = number + QStringLiteral(" - ") + caption;

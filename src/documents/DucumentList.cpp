@@ -286,9 +286,9 @@ void DucumentList::addStatusBoxes()
         m_statusCodes = {QString()};
     while (captions.size() < m_statusCodes.size())
         captions << (captions.isEmpty() ? QStringLiteral("All") : m_statusCodes[captions.size()]);
-    m_status = addCombo("cboStatus", tr2("สถานะ", "Status"), captions.mid(0, m_statusCodes.size()), d.DefaultFilter);
+    m_status = addCombo("cboStatus", bilingual("สถานะ", "Status"), captions.mid(0, m_statusCodes.size()), d.DefaultFilter);
     m_status2 = d.FilterStatus2.isEmpty() ? nullptr
-                                          : addCombo("Combo1", tr2("สถานะ 2", "Status 2"), splitList(d.FilterStatusCaptions2), 0);
+                                          : addCombo("Combo1", bilingual("สถานะ 2", "Status 2"), splitList(d.FilterStatusCaptions2), 0);
 }
 
 void DucumentList::addDateBoxes()
@@ -298,13 +298,13 @@ void DucumentList::addDateBoxes()
     if (d.filterBackDate && !d.BACKDAYLIST.isEmpty()) {
         QStringList captions;
         for (const QString& days : splitList(d.BACKDAYLIST))
-            captions << (days.trimmed().toInt() == 0 ? tr2("ทุกวันที่", "All dates") : tr2("ย้อนหลัง %1 วัน", "Last %1 days").arg(days.trimmed()));
-        m_backDays = addCombo("cboBackDay", tr2("ย้อนหลัง", "Back days"), captions, 0);
+            captions << (days.trimmed().toInt() == 0 ? bilingual("ทุกวันที่", "All dates") : bilingual("ย้อนหลัง %1 วัน", "Last %1 days").arg(days.trimmed()));
+        m_backDays = addCombo("cboBackDay", bilingual("ย้อนหลัง", "Back days"), captions, 0);
         connect(m_backDays, &QComboBox::currentIndexChanged, this, [this] { applyBackDays(); });
     }
-    m_dateFrom = addDateBox("txtDateFrom", tr2("จากวันที่", "From date"));
-    m_dateTo = addDateBox("txtDateTo", tr2("ถึงวันที่", "To date"));
-    m_deliveryDate = d.FilterDeliveryDate.isEmpty() ? nullptr : addDateBox("txtDeliveryDate", tr2("กำหนดส่งถึง", "Delivery by"));
+    m_dateFrom = addDateBox("txtDateFrom", bilingual("จากวันที่", "From date"));
+    m_dateTo = addDateBox("txtDateTo", bilingual("ถึงวันที่", "To date"));
+    m_deliveryDate = d.FilterDeliveryDate.isEmpty() ? nullptr : addDateBox("txtDeliveryDate", bilingual("กำหนดส่งถึง", "Delivery by"));
 }
 
 void DucumentList::addPartyBoxes()
@@ -313,14 +313,14 @@ void DucumentList::addPartyBoxes()
     QString customers = QStringLiteral("QD8TAR INNER JOIN QD8TAR2 ON QD8TAR.TARNCode = QD8TAR2.TAR2TARNCode WHERE TARNCode<>''");
     if (d.FilterARByEmp != 0)
         customers += QStringLiteral(" AND TAR2SaleCode='") + m_salesman + QLatin1Char('\'');
-    m_customer = addBox("txtCustomer", tr2("ลูกค้า", "Customer"), d.FilterAR,
-        codePicker(tr2("ลูกค้า", "Customers"), QStringLiteral("TARNCode"), QStringLiteral("TARNName") + nameSuffix(), customers));
-    m_supplier = addBox("txtSupplier", tr2("ผู้จำหน่าย", "Supplier"), d.FilterAP,
-        codePicker(tr2("ผู้จำหน่าย", "Suppliers"), QStringLiteral("TAPNCode"), QStringLiteral("TAPNName") + nameSuffix(),
+    m_customer = addBox("txtCustomer", bilingual("ลูกค้า", "Customer"), d.FilterAR,
+        codePicker(bilingual("ลูกค้า", "Customers"), QStringLiteral("TARNCode"), QStringLiteral("TARNName") + nameSuffix(), customers));
+    m_supplier = addBox("txtSupplier", bilingual("ผู้จำหน่าย", "Supplier"), d.FilterAP,
+        codePicker(bilingual("ผู้จำหน่าย", "Suppliers"), QStringLiteral("TAPNCode"), QStringLiteral("TAPNName") + nameSuffix(),
             QStringLiteral("QD8TAP")));
     m_employee = addBox("txtEmployee", d.FilterEmpLabel.isEmpty() ? QStringLiteral("พนักงานอ้างอิง") : d.FilterEmpLabel,
         d.FilterEmployee,
-        codePicker(tr2("พนักงาน", "Employees"), QStringLiteral("TEmpCode"), QStringLiteral("TEmpFullName") + nameSuffix(),
+        codePicker(bilingual("พนักงาน", "Employees"), QStringLiteral("TEmpCode"), QStringLiteral("TEmpFullName") + nameSuffix(),
             QStringLiteral("QD8TEmployee")));
 }
 
@@ -329,10 +329,10 @@ void DucumentList::addCheckBoxes()
     const ListDefinition& d = m_def;
     m_arrearOnly = d.FilterArrear.isEmpty()
         ? nullptr
-        : addCheck("chkArrearOnly", d.FilterArrearCaption.isEmpty() ? tr2("ค้างเท่านั้น", "Outstanding only") : d.FilterArrearCaption);
+        : addCheck("chkArrearOnly", d.FilterArrearCaption.isEmpty() ? bilingual("ค้างเท่านั้น", "Outstanding only") : d.FilterArrearCaption);
     m_invArrearOnly = d.FilterInvArrear.isEmpty() ? nullptr
                                                   : addCheck("chkInvArrearOnly", d.FilterInvArrearCaption.isEmpty()
-                                                          ? tr2("ค้างออกใบแจ้งหนี้", "Not invoiced only")
+                                                          ? bilingual("ค้างออกใบแจ้งหนี้", "Not invoiced only")
                                                           : d.FilterInvArrearCaption);
 }
 
@@ -340,23 +340,23 @@ void DucumentList::addCodeBoxes()
 {
     const ListDefinition& d = m_def;
     const QString dateCaption = d.FilterDateCaption.isEmpty() ? d.FilterDate : d.FilterDateCaption;
-    m_date2From = d.FilterDate.isEmpty() ? nullptr : addDateBox("txtDate2From", dateCaption + tr2(" จาก", " from"));
-    m_date2To = d.FilterDate.isEmpty() ? nullptr : addDateBox("txtDate2To", dateCaption + tr2(" ถึง", " to"));
-    m_division = addBox("txtDivision", tr2("ฝ่าย", "Division"), d.FilterDivision,
-        codePicker(tr2("ฝ่าย", "Divisions"), QStringLiteral("TDivCode"), QStringLiteral("TDivName") + nameSuffix(),
+    m_date2From = d.FilterDate.isEmpty() ? nullptr : addDateBox("txtDate2From", dateCaption + bilingual(" จาก", " from"));
+    m_date2To = d.FilterDate.isEmpty() ? nullptr : addDateBox("txtDate2To", dateCaption + bilingual(" ถึง", " to"));
+    m_division = addBox("txtDivision", bilingual("ฝ่าย", "Division"), d.FilterDivision,
+        codePicker(bilingual("ฝ่าย", "Divisions"), QStringLiteral("TDivCode"), QStringLiteral("TDivName") + nameSuffix(),
             QStringLiteral("QD8TDivision")));
     m_filter1 = addBox("txtFilter1", filter1Caption(), filter1KeyField().isEmpty() ? QString() : d.Filter1,
         codePicker(QString(), QString(), QString(), QString()));
-    m_project = addBox("txtProject", tr2("โครงการ", "Project"), m_projectFilterOn ? d.FilterProject : QString(),
-        codePicker(tr2("โครงการ", "Projects"), QStringLiteral("TPrjCode"), QStringLiteral("TPrjName") + nameSuffix(),
+    m_project = addBox("txtProject", bilingual("โครงการ", "Project"), m_projectFilterOn ? d.FilterProject : QString(),
+        codePicker(bilingual("โครงการ", "Projects"), QStringLiteral("TPrjCode"), QStringLiteral("TPrjName") + nameSuffix(),
             QStringLiteral("QD8TProject")));
     if (m_project) {
         m_project->setText(m_defaultProject);
         m_project->setReadOnly(m_projectLevel > 0 && !m_defaultProject.isEmpty());  // bound to his project
     }
     const bool program = d.FilterProductM != 0;
-    m_product = addBox("txtProduct", program ? QStringLiteral("โปรแกรม") : tr2("สินค้า", "Product"), d.FilterProduct,
-        codePicker(program ? QStringLiteral("โปรแกรม") : tr2("สินค้า", "Products"), QStringLiteral("TPdtCode"), QStringLiteral("TPdtName"),
+    m_product = addBox("txtProduct", program ? QStringLiteral("โปรแกรม") : bilingual("สินค้า", "Product"), d.FilterProduct,
+        codePicker(program ? QStringLiteral("โปรแกรม") : bilingual("สินค้า", "Products"), QStringLiteral("TPdtCode"), QStringLiteral("TPdtName"),
             program ? QStringLiteral("QD8TProduct WHERE TPdtTPTTCode='PROGRAM'") : QStringLiteral("QD8TProduct")));
     struct GroupList { const char* caption; const char* key; const char* name; const char* table; };
     static const GroupList groups[] = {{"หมวด", "TPSECode", "TPSEName", "QD8TProductSection"},
@@ -367,16 +367,16 @@ void DucumentList::addCodeBoxes()
             QString::fromLatin1(group.table)));
     m_filter2 = addBox("txtFilter2", d.Filter2Caption.isEmpty() ? d.FILTER2 : d.Filter2Caption, d.FILTER2);
     m_filter3 = addBox("txtFilter3", d.Filter3Caption.isEmpty() ? d.FILTER3 : d.Filter3Caption, d.FILTER3);
-    m_branch = addBox("txtBranch", tr2("สาขา", "Branch"), Prefix().isEmpty() ? QString() : Prefix() + QStringLiteral("TBraCode"),
-        codePicker(tr2("สาขา", "Branches"), QStringLiteral("TBraCode"), QStringLiteral("TBraName") + nameSuffix(),
+    m_branch = addBox("txtBranch", bilingual("สาขา", "Branch"), Prefix().isEmpty() ? QString() : Prefix() + QStringLiteral("TBraCode"),
+        codePicker(bilingual("สาขา", "Branches"), QStringLiteral("TBraCode"), QStringLiteral("TBraName") + nameSuffix(),
             QStringLiteral("QD8TBranch")));
 }
 
 void DucumentList::addSortAndSelect()
 {
     const QStringList captions = splitList(m_def.OrderList);
-    m_sort = captions.isEmpty() ? nullptr : addCombo("cboSort", tr2("เรียงตาม", "Sort by"), captions, m_def.DefaultOrder);
-    auto* selectButton = new QPushButton(tr2("เลือก", "Select"), m_panel);
+    m_sort = captions.isEmpty() ? nullptr : addCombo("cboSort", bilingual("เรียงตาม", "Sort by"), captions, m_def.DefaultOrder);
+    auto* selectButton = new QPushButton(bilingual("เลือก", "Select"), m_panel);
     selectButton->setObjectName(QStringLiteral("cmdSelect"));
     selectButton->setAccessibleName(selectButton->text());
     connect(selectButton, &QPushButton::clicked, this, &DucumentList::select);
@@ -408,7 +408,7 @@ QLineEdit* DucumentList::addBox(const char* name, const QString& caption, const 
     box->setAccessibleName(caption);
     label->setBuddy(box);
     if (pick) {
-        box->setToolTip(tr2("F2 เลือกจากรายการ", "F2 picks from a list"));
+        box->setToolTip(bilingual("F2 เลือกจากรายการ", "F2 picks from a list"));
         m_pickers.insert(box, pick);
         box->installEventFilter(this);
     }
@@ -465,7 +465,7 @@ void DucumentList::select()
 {
     const QString bad = badDate();
     if (!bad.isEmpty()) {
-        Services::messages().information(LCaption(), tr2("วันที่ไม่ถูกต้อง (วว/ดด/ปปปป) ", "Not a date (dd/mm/yyyy) ") + bad);
+        Services::messages().information(LCaption(), bilingual("วันที่ไม่ถูกต้อง (วว/ดด/ปปปป) ", "Not a date (dd/mm/yyyy) ") + bad);
         return;
     }
     runQuery();

@@ -102,11 +102,6 @@ void ListControl::buildView()
     m_count->installEventFilter(this);
 }
 
-QString ListControl::tr2(const char* thai, const char* english) const
-{
-    return LanguageID() == 0 ? QString::fromUtf8(thai) : QString::fromUtf8(english);
-}
-
 bool ListControl::loadDefinition(const QString& iCommandAlias, const QString& iCommandGroup, std::shared_ptr<DataObject> iDataObj,
     std::shared_ptr<AppObject> iAppObj, std::shared_ptr<ClientObject> iClientObj, FormCollection* iForms,
     const QString& iLCaption, const QString& iFCaption)
@@ -169,12 +164,12 @@ void ListControl::applyDefinitionToView()
     m_view->setButtonVisible(DataView::Button::View, shown('V'));
     m_view->setButtonVisible(DataView::Button::Delete, shown('D') && m_def.DeleteActionMode == 2);
     m_view->setButtonVisible(DataView::Button::Close, shown('C'));
-    m_view->setButtonCaption(DataView::Button::Add, tr2("เพิ่ม", "Add"));
-    m_view->setButtonCaption(DataView::Button::Edit, tr2("แก้ไข", "Edit"));
-    m_view->setButtonCaption(DataView::Button::View, tr2("ดู", "View"));
+    m_view->setButtonCaption(DataView::Button::Add, bilingual("เพิ่ม", "Add"));
+    m_view->setButtonCaption(DataView::Button::Edit, bilingual("แก้ไข", "Edit"));
+    m_view->setButtonCaption(DataView::Button::View, bilingual("ดู", "View"));
     m_view->setButtonCaption(DataView::Button::Delete,
-        m_def.DeleteActionCaption.isEmpty() ? tr2("ลบ", "Delete") : m_def.DeleteActionCaption);
-    m_view->setButtonCaption(DataView::Button::Close, tr2("ปิด", "Close"));
+        m_def.DeleteActionCaption.isEmpty() ? bilingual("ลบ", "Delete") : m_def.DeleteActionCaption);
+    m_view->setButtonCaption(DataView::Button::Close, bilingual("ปิด", "Close"));
 
     m_timer->stop();
     if (autoRefreshOn(m_def.AutoRefresh))
@@ -307,7 +302,7 @@ QString ListControl::pickCode(const QString& title, const QString& keyField, con
 {
     try {
         return SessionServices::listService().PickFromList(title, keyField, keyField + QLatin1Char(',') + nameField,
-            tr2("รหัส,ชื่อ", "Code,Name"), QStringLiteral("1800,5000"), QStringLiteral("0,0"), source, DataConnectionString(),
+            bilingual("รหัส,ชื่อ", "Code,Name"), QStringLiteral("1800,5000"), QStringLiteral("0,0"), source, DataConnectionString(),
             0, 0, 0, 0, 0, 0);
     } catch (const DbError& e) {
         reportError(e.message());
@@ -337,7 +332,7 @@ void ListControl::readFilter1()
     ListService& lookup = SessionServices::listService();
     try {
         m_filter1Caption = lookup.LookupValue(QString(), QStringLiteral("TQFmAlias"), m_def.Filter1,
-                                     LanguageID() == 0 ? QStringLiteral("TQFmCaption") : QStringLiteral("TQFmCaption2"),
+                                     QStringLiteral("TQFmCaption") + nameSuffix(),
                                      QStringLiteral("QD8TQuickForm"), AppConnectionString())
                                .toString();
         m_filter1Key = lookup.LookupValue(QString(), QStringLiteral("TQFmAlias"), m_def.Filter1, QStringLiteral("TQFMPKList"),
@@ -379,7 +374,7 @@ void ListControl::onEdit()
         return;
     if (!mayEdit(key)) {
         Services::messages().information(m_lCaption,
-            tr2("เอกสาร %1 ยืนยัน อนุมัติ หรือยกเลิกแล้ว จึงแก้ไขไม่ได้ เปิดให้ดูอย่างเดียว",
+            bilingual("เอกสาร %1 ยืนยัน อนุมัติ หรือยกเลิกแล้ว จึงแก้ไขไม่ได้ เปิดให้ดูอย่างเดียว",
                 "Document %1 is confirmed, approved or cancelled and cannot be edited; it opens for viewing.")
                 .arg(key));
         onView();
@@ -412,12 +407,12 @@ void ListControl::onDelete()
 void ListControl::openForm(const QString& mode, const QString& key)
 {
     if (m_def.FormDetail.isEmpty()) {
-        reportError(tr2("รายการนี้ไม่มีฟอร์มเอกสาร", "This list has no detail form."));
+        reportError(bilingual("รายการนี้ไม่มีฟอร์มเอกสาร", "This list has no detail form."));
         return;
     }
     QWidget* form = m_forms ? m_forms->add(m_def.FormDetail) : nullptr;
     if (!form) {
-        reportError(tr2("ไม่พบฟอร์ม %1", "Form %1 is not available.").arg(m_def.FormDetail));
+        reportError(bilingual("ไม่พบฟอร์ม %1", "Form %1 is not available.").arg(m_def.FormDetail));
         return;
     }
     QStringList missing;
@@ -436,11 +431,11 @@ void ListControl::openForm(const QString& mode, const QString& key)
     call("Setbuttons");
     for (const QString& member : keyMembers(adding))
         set(member.toLatin1().constData(), key);
-    form->setWindowTitle(m_lCaption + QStringLiteral(" - ") + (adding ? tr2("เพิ่ม", "New") : key));
+    form->setWindowTitle(m_lCaption + QStringLiteral(" - ") + (adding ? bilingual("เพิ่ม", "New") : key));
     if (!adding)
         call("FillData");
     if (!missing.isEmpty())
-        reportError(tr2("ฟอร์ม %1 ไม่มี %2", "Form %1 lacks %2.").arg(m_def.FormDetail, missing.join(QStringLiteral(", "))));
+        reportError(bilingual("ฟอร์ม %1 ไม่มี %2", "Form %1 lacks %2.").arg(m_def.FormDetail, missing.join(QStringLiteral(", "))));
     // A form that tells of its saves makes the list show them.
     const int saved = form->metaObject()->indexOfSignal("Saved(QString)");
     if (saved >= 0)

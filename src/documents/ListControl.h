@@ -153,8 +153,6 @@ protected:
     // The user's rights on the list's command, for the named rights ("ICINVENTORYCOST")
     // and the employee-type restriction; made by the session services, loaded once.
     PermissionObject* permission();
-    // A text of the session's language: Thai or English.
-    QString tr2(const char* thai, const char* english) const;
     // A pick list through the list service on the data database; "" when nothing was picked.
     QString pickCode(const QString& title, const QString& keyField, const QString& nameField, const QString& source);
     // The quick form's own pick list; "" when nothing was picked.

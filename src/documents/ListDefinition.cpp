@@ -4,6 +4,7 @@
 #include "database/PermissionObject.h"
 #include "database/SessionServices.h"
 #include "foundation/CommaList.h"
+#include "foundation/Language.h"
 
 namespace qd8 {
 
@@ -18,13 +19,12 @@ class ColumnReader {
 public:
     ColumnReader(const QString& alias, const QString& connectionString) : m_alias(alias), m_cs(connectionString) {}
 
-    QString text(const char* column) const
+    QString text(const QString& column) const
     {
-        const QVariant v = SessionServices::listService().LookupValue(
-            QString(), KeyColumn, m_alias, QString::fromLatin1(column), Table, m_cs);
+        const QVariant v = SessionServices::listService().LookupValue(QString(), KeyColumn, m_alias, column, Table, m_cs);
         return v.isNull() ? QString() : v.toString();
     }
-    int number(const char* column) const { return qRound(text(column).trimmed().toDouble()); }
+    int number(const char* column) const { return qRound(text(QString::fromLatin1(column)).trimmed().toDouble()); }
 
 private:
     QString m_alias;
@@ -49,7 +49,7 @@ ListDefinition ListDefinition::load(const QString& alias, const QString& appConn
     }
     d.PrimaryKeyList = row.text("TFDLPrimaryKeyList");
     d.ColumnList = row.text("TFDLColumnList");
-    d.NameList = row.text(languageId == 0 ? "TFDLNameList" : "TFDLNameList2");
+    d.NameList = row.text(QStringLiteral("TFDLNameList") + nameSuffix(languageId));
     d.WidthList = row.text("TFDLWidthList");
     d.rowHeight = row.number("TFDLRowHeight");
     d.TypeList = row.text("TFDLTypeList");

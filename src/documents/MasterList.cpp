@@ -92,8 +92,8 @@ void MasterList::buildPanel()
 
     m_inUse = new QComboBox(m_panel);
     m_inUse->setObjectName(QStringLiteral("ComboListDesigner1"));
-    m_inUse->setAccessibleName(tr2("สถานะการใช้งาน", "In use"));
-    m_inUse->addItems({tr2("ใช้งาน", "In use"), tr2("ทั้งหมด", "All"), tr2("ไม่ใช้งาน", "Not in use")});
+    m_inUse->setAccessibleName(bilingual("สถานะการใช้งาน", "In use"));
+    m_inUse->addItems({bilingual("ใช้งาน", "In use"), bilingual("ทั้งหมด", "All"), bilingual("ไม่ใช้งาน", "Not in use")});
     m_inUse->setCurrentIndex(m_def.DefaultFilter >= 0 && m_def.DefaultFilter <= 2 ? m_def.DefaultFilter : 0);
     row->addWidget(m_inUse);
 
@@ -106,14 +106,14 @@ void MasterList::buildPanel()
         m_filter1 = new QLineEdit(m_panel);
         m_filter1->setObjectName(QStringLiteral("txtFilter1"));
         m_filter1->setAccessibleName(filter1Caption());
-        m_filter1->setToolTip(tr2("F2 เลือกจากรายการ", "F2 picks from a list"));
+        m_filter1->setToolTip(bilingual("F2 เลือกจากรายการ", "F2 picks from a list"));
         m_filter1->installEventFilter(this);
         connect(m_filter1, &QLineEdit::returnPressed, this, &MasterList::select);
         row->addWidget(m_applyFilter1);
         row->addWidget(m_filter1);
     }
 
-    auto* label = new QLabel(tr2("ค้นหา", "Search"), m_panel);
+    auto* label = new QLabel(bilingual("ค้นหา", "Search"), m_panel);
     m_search = new QLineEdit(m_panel);
     m_search->setObjectName(QStringLiteral("txtSearch"));
     m_search->setAccessibleName(label->text());
@@ -122,7 +122,7 @@ void MasterList::buildPanel()
     row->addWidget(label);
     row->addWidget(m_search, 1);
 
-    auto* selectButton = new QPushButton(tr2("เลือก", "Select"), m_panel);
+    auto* selectButton = new QPushButton(bilingual("เลือก", "Select"), m_panel);
     selectButton->setObjectName(QStringLiteral("cmdSelect"));
     selectButton->setAccessibleName(selectButton->text());
     connect(selectButton, &QPushButton::clicked, this, &MasterList::select);
@@ -133,7 +133,7 @@ void MasterList::select()
 {
     if (m_search->text().contains(QLatin1Char('\''))) {
         Services::messages().information(LCaption(),
-            tr2("คำค้นหาต้องไม่มีเครื่องหมาย '", "The search text may not hold a quote (')."));
+            bilingual("คำค้นหาต้องไม่มีเครื่องหมาย '", "The search text may not hold a quote (')."));
         return;
     }
     runQuery();

@@ -1,6 +1,7 @@
 #include "editors/QuickFormDefinition.h"
 
 #include "foundation/Connection.h"
+#include "foundation/Language.h"
 #include "foundation/Recordset.h"
 #include "foundation/Values.h"
 
@@ -38,7 +39,7 @@ QList<int> QuickFormDefinition::keyColumns() const
 
 QuickFormDefinition QuickFormDefinition::load(Connection& app, const QString& alias, int languageId)
 {
-    const QString suffix = languageId == 0 ? QString() : QStringLiteral("2");
+    const QString suffix = nameSuffix(languageId);
     QuickFormDefinition form;
     Recordset rs;
     rs.open(Sql("SELECT * FROM QD8TQuickForm WHERE TQFmAlias=") + quoted(alias) + " AND TQFMFlag1=1", app);
@@ -102,7 +103,7 @@ QuickFormDefinition QuickFormDefinition::load(Connection& app, const QString& al
     // The rows' active flag, shown and edited as the last column.
     QuickFieldDefinition show;
     show.fieldName = form.keyPrefix + QStringLiteral("Flag1");
-    show.caption = languageId == 0 ? QStringLiteral("แสดง") : QStringLiteral("Show");
+    show.caption = inLanguage(languageId, "แสดง", "Show");
     show.type = QStringLiteral("YESNO");
     show.width = 700;
     show.defaultValue = QStringLiteral("1");

@@ -99,11 +99,6 @@ QuickGrid::QuickGrid(QWidget* parent)
 
 QuickGrid::~QuickGrid() = default;
 
-QString QuickGrid::text(const char* thai, const char* english) const
-{
-    return QString::fromUtf8(LanguageID() == 0 ? thai : english);
-}
-
 QString QuickGrid::SelectCaption() const
 {
     return m_selectLabel->text();
@@ -383,18 +378,18 @@ QString QuickGrid::checkCell(int row, int col, const QVariant& value) const
     const QuickFieldDefinition& f = m_form.fields[col - 1];
     const QString shown = qd8::text(value);
     if (f.maxLength > 0 && shown.size() > f.maxLength)
-        return text("ยาวเกิน %1 ตัวอักษร", "Longer than %1 characters").arg(f.maxLength);
+        return bilingual("ยาวเกิน %1 ตัวอักษร", "Longer than %1 characters").arg(f.maxLength);
     if (!shown.isEmpty() && (f.minCon || f.maxCon)) {
         const double number = toNumber(value);
         if (f.minCon && number < f.minValue)
-            return text("ต้องไม่น้อยกว่า %1", "Must not be less than %1").arg(f.minValue);
+            return bilingual("ต้องไม่น้อยกว่า %1", "Must not be less than %1").arg(f.minValue);
         if (f.maxCon && number > f.maxValue)
-            return text("ต้องไม่มากกว่า %1", "Must not be more than %1").arg(f.maxValue);
+            return bilingual("ต้องไม่มากกว่า %1", "Must not be more than %1").arg(f.maxValue);
     }
     if (!f.canDuplicate && !shown.isEmpty())
         for (int other = 1; other <= m_grid->Rows(); ++other)
             if (other != row && m_grid->RowMark(other) != QLatin1String("D") && qd8::text(m_grid->GetValue(other, col)) == shown)
-                return text("%1 ซ้ำกับรายการที่ %2", "%1 is already in row %2").arg(shown).arg(other);
+                return bilingual("%1 ซ้ำกับรายการที่ %2", "%1 is already in row %2").arg(shown).arg(other);
     return {};
 }
 

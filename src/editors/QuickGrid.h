@@ -104,7 +104,6 @@ private:
     // "key=value" (quoted for a TEXT key) for the row's stored key, every key column of the form.
     Sql keyCondition(int row) const;
     QVariant keyValue(int row, int col) const;
-    QString text(const char* thai, const char* english) const;
 
     QString m_runMode = QStringLiteral("BLANK");
     QString m_quickGroup;

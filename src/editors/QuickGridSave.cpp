@@ -141,7 +141,7 @@ QString QuickGrid::inUseProblem(Connection& data) const
             Recordset rs;
             rs.open(Sql("SELECT ") + m_form.deleteField + " FROM " + m_form.deleteTable + " WHERE " + m_form.deleteField + "=" + quoted(key), data);
             if (!rs.eof())
-                return (m_form.deleteMessage.isEmpty() ? text("ข้อมูลนี้ถูกใช้งานแล้ว ลบไม่ได้", "This entry is in use and cannot be deleted")
+                return (m_form.deleteMessage.isEmpty() ? bilingual("ข้อมูลนี้ถูกใช้งานแล้ว ลบไม่ได้", "This entry is in use and cannot be deleted")
                                                        : m_form.deleteMessage)
                     + QStringLiteral(" (") + key + QLatin1Char(')');
         }
@@ -152,7 +152,7 @@ QString QuickGrid::inUseProblem(Connection& data) const
             Recordset used;
             used.open(Sql("SELECT ") + reference.column + " FROM " + reference.table + " WHERE " + reference.column + "=" + quoted(value), data);
             if (!used.eof())
-                return text("%1 %2 ยังถูกใช้งานอยู่ ลบไม่ได้", "%1 %2 is still in use and cannot be deleted")
+                return bilingual("%1 %2 ยังถูกใช้งานอยู่ ลบไม่ได้", "%1 %2 is still in use and cannot be deleted")
                     .arg(plainCaption(m_form.fields[reference.col - 1]), value);
         }
     }
@@ -179,13 +179,13 @@ void QuickGrid::writeRows(Connection& data, int& saved, int& deleted)
                 rs.open(Sql("SELECT * FROM ") + m_form.table + " WHERE " + keyCondition(row), data, Recordset::adOpenKeyset,
                     Recordset::adLockOptimistic);
             if (loaded && (fresh || rs.eof()))
-                throw DbError(DbError::Kind::Conflict, text("ผู้ใช้อื่นลบรายการนี้ไปแล้ว", "Another user deleted this entry"));
+                throw DbError(DbError::Kind::Conflict, bilingual("ผู้ใช้อื่นลบรายการนี้ไปแล้ว", "Another user deleted this entry"));
             if (loaded) {
                 for (int col = 1; col <= m_form.fields.size(); ++col)
                     if (qd8::text(rs.field(m_form.fields[col - 1].fieldName)) != qd8::text(m_loaded[row - 1].value(col - 1)))
-                        throw DbError(DbError::Kind::Conflict, text("ผู้ใช้อื่นแก้ไขรายการนี้ไปแล้ว", "Another user changed this entry"));
+                        throw DbError(DbError::Kind::Conflict, bilingual("ผู้ใช้อื่นแก้ไขรายการนี้ไปแล้ว", "Another user changed this entry"));
             } else if (!fresh && !rs.eof()) {
-                throw DbError(DbError::Kind::Conflict, text("%1 %2 มีอยู่แล้ว", "%1 %2 already exists")
+                throw DbError(DbError::Kind::Conflict, bilingual("%1 %2 มีอยู่แล้ว", "%1 %2 already exists")
                                                            .arg(plainCaption(key), qd8::text(m_grid->GetValue(row, m_form.keyColumn))));
             }
             if (fresh) {
@@ -206,7 +206,7 @@ void QuickGrid::writeRows(Connection& data, int& saved, int& deleted)
             rs.update();
             ++saved;
         } catch (const DbError& error) {
-            throw DbError(error.kind(), text("รายการที่ %1: %2", "Row %1: %2").arg(row).arg(error.message()), error.statement());
+            throw DbError(error.kind(), bilingual("รายการที่ %1: %2", "Row %1: %2").arg(row).arg(error.message()), error.statement());
         }
     }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/Language.h"
+
 #include <QString>
 
 namespace qd8 {
@@ -24,7 +26,7 @@ struct SessionContext {
     QString ControlName;
 
     // "" for LanguageID 0, "2" otherwise: appended to a column stem (TCmdName, TCmdName2).
-    QString nameSuffix() const { return LanguageID == 0 ? QString() : QStringLiteral("2"); }
+    QString nameSuffix() const { return qd8::nameSuffix(LanguageID); }
     // Column stem + suffix: column("TCmdName") is "TCmdName" or "TCmdName2".
     QString column(const QString& stem) const { return stem + nameSuffix(); }
 };

@@ -78,6 +78,8 @@ public:
     void setCommandGroup(const QString& value) { m_session.CommandGroup = value; }
     qint16 LanguageID() const { return m_session.LanguageID; }
     QString nameSuffix() const { return m_session.nameSuffix(); }
+    // A text in the session language: the Thai one or the English one.
+    QString bilingual(const char* thai, const char* english) const { return inLanguage(LanguageID(), thai, english); }
     qlonglong hWnd() const;
 
     // The session objects of the data-access layer; held until the control is destroyed.
