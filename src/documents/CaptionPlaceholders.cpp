@@ -13,7 +13,7 @@ namespace qd8 {
 namespace {
 
 // A placeholder read from an option: the option's alias and the text used while the
-// option is empty (without a default, the placeholder's name, so a caption never shows braces).
+// option is empty ("" for most: an unset custom field leaves no words in a caption).
 struct OptionPlaceholder {
     QString option;
     QString fallback;
@@ -21,7 +21,7 @@ struct OptionPlaceholder {
 
 void addPlaceholder(QHash<QString, OptionPlaceholder>& table, const QString& name, const QString& option, const QString& fallback = {})
 {
-    table.insert(name.toUpper(), {option, fallback.isEmpty() ? name : fallback});
+    table.insert(name.toUpper(), {option, fallback});
 }
 
 const QString FormulaMajorNamePlaceholder = QStringLiteral("MRPFORMULAMAJORNAME");
@@ -37,7 +37,7 @@ const QHash<QString, OptionPlaceholder>& optionPlaceholders()
             addPlaceholder(table, QStringLiteral("ICCustom") + number, QStringLiteral("ICCUSTOM") + number);
             addPlaceholder(table, QStringLiteral("SECustom") + number, QStringLiteral("SECUSTOM") + number);
         }
-        addPlaceholder(table, QStringLiteral("JobCodeCaption"), QStringLiteral("JobCodeCaption"), QStringLiteral("รหัสงาน"));
+        addPlaceholder(table, QStringLiteral("JobCodeCaption"), QStringLiteral("JobCodeCaption"));
         addPlaceholder(table, QStringLiteral("MRPSECTIONCAPTION"), QStringLiteral("MRPSECTIONCAPTION"), QStringLiteral("หมวดสินค้า"));
         // The leading blank is part of the suite's caption.
         addPlaceholder(table, QStringLiteral("MRPGROUPCAPTION"), QStringLiteral("MRPGROUPCAPTION"), QStringLiteral(" กลุ่มสินค้า"));
@@ -85,11 +85,11 @@ QString CaptionPlaceholders::ReplaceCustomCaption(const QString& text)
     qsizetype copied = 0;
     for (auto it = placeholder.globalMatch(text); it.hasNext();) {
         const QRegularExpressionMatch match = it.next();
-        const QString value = placeholderValue(match.captured(1).toUpper());
-        if (value.isNull())
-            continue;
+        const std::optional<QString> value = placeholderValue(match.captured(1).toUpper());
+        if (!value)
+            continue;  // not a placeholder of ours: the braces stay
         result += QStringView(text).mid(copied, match.capturedStart() - copied);
-        result += value;
+        result += *value;
         copied = match.capturedEnd();
     }
     result += QStringView(text).mid(copied);
@@ -120,7 +120,7 @@ QDate CaptionPlaceholders::ReplaceDateValue(const QString& text)
     return dateFromText(expanded);
 }
 
-QString CaptionPlaceholders::placeholderValue(const QString& name)
+std::optional<QString> CaptionPlaceholders::placeholderValue(const QString& name)
 {
     if (const auto cached = m_values.constFind(name); cached != m_values.constEnd())
         return *cached;

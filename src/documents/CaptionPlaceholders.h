@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QHash>
 #include <QString>
+#include <optional>
 
 namespace qd8 {
 
@@ -26,7 +27,8 @@ public:
     void setToday(const QDate& today) { m_today = today; }
 
 private:
-    QString placeholderValue(const QString& name);
+    // The text of a placeholder; nothing for a name that is not one.
+    std::optional<QString> placeholderValue(const QString& name);
     // An option's stored text, "" without options or when it cannot be read.
     QString option(const QString& alias);
     QString formulaGroupName(const QString& code) const;

@@ -41,24 +41,34 @@ QDate boxDate(const QString& text)
     return date;
 }
 
+// The division box filters divisions, departments or sections, whichever the list's field
+// refers to (TPRDTDepCode: departments); its caption and pick list follow.
+struct OrganisationList {
+    const char* keyEnding;
+    const char* thai;
+    const char* english;
+    const char* key;
+    const char* name;
+    const char* table;
+};
+
+const OrganisationList& organisationListOf(const QString& field)
+{
+    static const OrganisationList lists[] = {
+        {"TDepCode", "แผนก", "Department", "TDepCode", "TDepName", "QD8TDepartment"},
+        {"TSecCode", "ส่วน", "Section", "TSecCode", "TSecName", "QD8TSection"},
+        {"", "ฝ่าย", "Division", "TDivCode", "TDivName", "QD8TDivision"},
+    };
+    for (const OrganisationList& list : lists) {
+        if (field.trimmed().endsWith(QLatin1String(list.keyEnding), Qt::CaseInsensitive))
+            return list;
+    }
+    return lists[std::size(lists) - 1];
+}
+
 QString boxText(const QLineEdit* box)
 {
     return box ? box->text().trimmed() : QString();
-}
-
-// " AND field='value'" for a filled box.
-void appendEquals(Sql& where, const QString& field, const QLineEdit* box)
-{
-    const QString value = boxText(box);
-    if (!field.isEmpty() && !value.isEmpty())
-        where += Sql(" AND ") + field + "=" + quoted(value);
-}
-
-void appendDate(Sql& where, const QString& field, const char* comparison, const QLineEdit* box)
-{
-    const QDate date = boxDate(boxText(box));
-    if (!field.isEmpty() && date.isValid())
-        where += Sql(" AND ") + field + comparison + dateMarker(date);
 }
 
 } // namespace
@@ -111,7 +121,7 @@ void DucumentList::readSessionChoices()
                              QStringLiteral("QD8TUser"), DataConnectionString())
                          .toString();
     } catch (const DbError& e) {
-        reportError(e.message());
+        loadFailed(e.message());
     }
 }
 
@@ -120,92 +130,44 @@ QString DucumentList::loadingCaption() const
     return QStringLiteral("เลือกเอกสาร");
 }
 
-QString DucumentList::statusCondition(const QString& code, const QString& p, const QStringList& customConditions)
+DocumentFilter DucumentList::currentFilter()
 {
-    if (code == QLatin1String("0"))
-        return " AND " + p + "CancelStatus<>1 AND " + p + "ConfirmStatus=1 AND " + p + "ApproveStatus=1";
-    if (code == QLatin1String("1"))
-        return " AND (" + p + "CancelStatus<>1 AND " + p + "ConfirmStatus=1 AND " + p + "ApproveStatus<>1) ";
-    if (code == QLatin1String("2"))
-        return " AND " + p + "CancelStatus<>1 AND " + p + "ConfirmStatus=1";
-    if (code == QLatin1String("3"))
-        return " AND " + p + "CancelStatus<>1 AND " + p + "ConfirmStatus<>1";
-    if (code == QLatin1String("4"))
-        return " AND " + p + "CancelStatus<>1 AND " + p + "ApproveStatus<>1";
-    if (code == QLatin1String("5"))
-        return " AND " + p + "CancelStatus<>1";
-    if (code == QLatin1String("6"))
-        return " AND " + p + "CancelStatus=1";
-    if (code == QLatin1String("8"))
-        return customConditions.value(0);
-    if (code == QLatin1String("9") && customConditions.size() >= 2)
-        return customConditions.value(1);
-    if (code == QLatin1String("10") && customConditions.size() >= 3)
-        return customConditions.value(2);
-    return {};
+    DocumentFilter f;
+    if (m_doFilterEmployee && m_hrFilter > 0) {
+        try {
+            f.employeeScope = permission()->employeeScope(QStringLiteral("TEmpTEMTCode"), m_hrFilter - 1);
+        } catch (const DbError& e) {
+            loadFailed(e.message());
+        }
+    }
+    f.statusCode = m_status ? m_statusCodes.value(m_status->currentIndex()) : QString();
+    if (clientObject() && clientObject()->approveNoteFilter())
+        f.approveNote = clientObject()->approveNoteValue();
+    f.dateFrom = boxDate(boxText(m_dateFrom));
+    f.dateTo = boxDate(boxText(m_dateTo));
+    f.deliveryBy = boxDate(boxText(m_deliveryDate));
+    f.customer = boxText(m_customer);
+    f.supplier = boxText(m_supplier);
+    f.employees = boxText(m_employee);
+    f.arrearOnly = m_arrearOnly && m_arrearOnly->isChecked();
+    f.invArrearOnly = m_invArrearOnly && m_invArrearOnly->isChecked();
+    f.status2 = m_status2 ? m_status2->currentIndex() : -1;
+    f.date2From = boxDate(boxText(m_date2From));
+    f.date2To = boxDate(boxText(m_date2To));
+    f.division = boxText(m_division);
+    f.filter1 = boxText(m_filter1);
+    f.project = m_projectFilterOn ? boxText(m_project) : QString();
+    f.product = boxText(m_product);
+    f.productGroup = boxText(m_productGroup);
+    f.filter2 = boxText(m_filter2);
+    f.filter3 = boxText(m_filter3);
+    f.branch = boxText(m_branch);
+    return f;
 }
 
 Sql DucumentList::composeWhere()
 {
-    const QString p = Prefix();
-    Sql where = Sql(" WHERE ") + p + "No<>''";
-
-    if (m_doFilterEmployee && m_hrFilter > 0) {
-        try {
-            const QString restriction = permission()->employeeScope(QStringLiteral("TEmpTEMTCode"), m_hrFilter - 1);
-            if (!restriction.isEmpty())
-                where += Sql(" AND ") + restriction;
-        } catch (const DbError& e) {
-            reportError(e.message());
-        }
-    }
-
-    const QString code = m_status ? m_statusCodes.value(m_status->currentIndex()) : QString();
-    where += statusCondition(code, p, splitList(m_def.FilterCustom));
-    if (code == QLatin1String("1") && clientObject() && clientObject()->approveNoteFilter())
-        where += Sql(" AND (") + p + "ApproveNote=" + quoted(clientObject()->approveNoteValue()) + " or " + p
-            + "ApproveNote='' or " + p + "ApproveNote is null) ";
-
-    appendDate(where, p + QStringLiteral("Date"), ">=", m_dateFrom);
-    appendDate(where, p + QStringLiteral("Date"), "<=", m_dateTo);
-    appendDate(where, m_def.FilterDeliveryDate, "<=", m_deliveryDate);
-    appendEquals(where, m_def.FilterAR, m_customer);
-    appendEquals(where, m_def.FilterAP, m_supplier);
-    const QStringList employees = splitList(boxText(m_employee));
-    if (!m_def.FilterEmployee.isEmpty() && employees.size() == 1)
-        appendEquals(where, m_def.FilterEmployee, m_employee);
-    else if (!m_def.FilterEmployee.isEmpty() && employees.size() > 1) {
-        Sql any;
-        for (const QString& employee : employees)
-            any += Sql(any.text().isEmpty() ? "" : " OR ") + m_def.FilterEmployee + "=" + quoted(employee.trimmed());
-        where += Sql(" AND (") + any + ")";
-    }
-    if (m_arrearOnly && m_arrearOnly->isChecked())
-        where += Sql(" AND ") + m_def.FilterArrear;
-    if (m_invArrearOnly && m_invArrearOnly->isChecked())
-        where += Sql(" AND ") + m_def.FilterInvArrear;
-    if (m_status2)
-        where += splitList(m_def.FilterCustom2).value(m_status2->currentIndex());
-    appendDate(where, m_def.FilterDate, ">=", m_date2From);
-    appendDate(where, m_def.FilterDate, "<=", m_date2To);
-    appendEquals(where, m_def.FilterDivision, m_division);
-    appendEquals(where, filter1KeyField().isEmpty() ? QString() : p + filter1KeyField(), m_filter1);
-    if (m_projectFilterOn)
-        appendEquals(where, m_def.FilterProject, m_project);
-    appendEquals(where, m_def.FilterProduct, m_product);
-    appendEquals(where, m_def.FilterProductG, m_productGroup);
-    appendEquals(where, m_def.FILTER2, m_filter2);
-    const QStringList codes = splitList(boxText(m_filter3));
-    if (!m_def.FILTER3.isEmpty() && codes.size() >= 2)
-        where += Sql(" AND (") + m_def.FILTER3 + "=" + quoted(codes[0].trimmed()) + " OR " + m_def.FILTER3 + "="
-            + quoted(codes[1].trimmed()) + ")";
-    else
-        appendEquals(where, m_def.FILTER3, m_filter3);
-    const QString branch = boxText(m_branch);
-    if (!branch.isEmpty())
-        where += Sql(" AND ") + p + "TBraCode=" + quoted(branch);
-    where += m_def.FilterCustomW;
-    return where;
+    return currentFilter().where(m_def, Prefix(), filter1KeyField());
 }
 
 QString DucumentList::composeOrder() const
@@ -234,8 +196,8 @@ bool DucumentList::mayEdit(const QString& key)
         }
         return true;
     } catch (const DbError& e) {
-        reportError(e.message());
-        return false;
+        loadFailed(e.message());
+        return true;  // the document form reports what it cannot read
     }
 }
 
@@ -342,9 +304,11 @@ void DucumentList::addCodeBoxes()
     const QString dateCaption = d.FilterDateCaption.isEmpty() ? d.FilterDate : d.FilterDateCaption;
     m_date2From = d.FilterDate.isEmpty() ? nullptr : addDateBox("txtDate2From", dateCaption + bilingual(" จาก", " from"));
     m_date2To = d.FilterDate.isEmpty() ? nullptr : addDateBox("txtDate2To", dateCaption + bilingual(" ถึง", " to"));
-    m_division = addBox("txtDivision", bilingual("ฝ่าย", "Division"), d.FilterDivision,
-        codePicker(bilingual("ฝ่าย", "Divisions"), QStringLiteral("TDivCode"), QStringLiteral("TDivName") + nameSuffix(),
-            QStringLiteral("QD8TDivision")));
+    const OrganisationList& unit = organisationListOf(d.FilterDivision);
+    const QString unitCaption = bilingual(unit.thai, unit.english);
+    m_division = addBox("txtDivision", unitCaption, d.FilterDivision,
+        codePicker(unitCaption, QString::fromLatin1(unit.key), QString::fromLatin1(unit.name) + nameSuffix(),
+            QString::fromLatin1(unit.table)));
     m_filter1 = addBox("txtFilter1", filter1Caption(), filter1KeyField().isEmpty() ? QString() : d.Filter1,
         codePicker(QString(), QString(), QString(), QString()));
     m_project = addBox("txtProject", bilingual("โครงการ", "Project"), m_projectFilterOn ? d.FilterProject : QString(),
@@ -451,21 +415,27 @@ void DucumentList::applyBackDays()
     m_dateTo->clear();
 }
 
-QString DucumentList::badDate() const
+QString DucumentList::badInput() const
 {
+    const auto named = [](const QLineEdit* box) { return box->accessibleName() + QStringLiteral(": ") + box->text(); };
     for (const QLineEdit* box : {m_dateFrom, m_dateTo, m_deliveryDate, m_date2From, m_date2To}) {
         const QString text = boxText(box);
         if (!text.isEmpty() && !boxDate(text).isValid())
-            return box->accessibleName() + QStringLiteral(": ") + text;
+            return bilingual("วันที่ไม่ถูกต้อง (วว/ดด/ปปปป) ", "Not a date (dd/mm/yyyy) ") + named(box);
+    }
+    // A quote would break the composed statement, which then refuses to run.
+    for (const QLineEdit* box : m_panel->findChildren<QLineEdit*>()) {
+        if (box->text().contains(QLatin1Char('\'')))
+            return bilingual("ค่าที่ใช้กรองมีเครื่องหมาย ' ไม่ได้ ", "A filter value cannot hold a quote (') ") + named(box);
     }
     return {};
 }
 
 void DucumentList::select()
 {
-    const QString bad = badDate();
+    const QString bad = badInput();
     if (!bad.isEmpty()) {
-        Services::messages().information(LCaption(), bilingual("วันที่ไม่ถูกต้อง (วว/ดด/ปปปป) ", "Not a date (dd/mm/yyyy) ") + bad);
+        Services::messages().information(LCaption(), bad);
         return;
     }
     runQuery();

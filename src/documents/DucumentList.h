@@ -1,5 +1,6 @@
 #pragma once
 
+#include "documents/DocumentFilter.h"
 #include "documents/ListControl.h"
 
 #include <QHash>
@@ -45,28 +46,50 @@ public:
     explicit DucumentList(QWidget* parent = nullptr);
     ~DucumentList() override;
 
-    QD8_LIST_TEXT(OrderQuery, m_def.OrderQuery)
-    QD8_LIST_TEXT(OrderList, m_def.OrderList)
-    QD8_LIST_NUMBER(DefaultOrder, m_def.DefaultOrder)
-    QD8_LIST_TEXT(BACKDAYLIST, m_def.BACKDAYLIST)
-    QD8_LIST_TEXT(FILTER2, m_def.FILTER2)
-    QD8_LIST_TEXT(FILTER3, m_def.FILTER3)
-    QD8_LIST_TEXT(FilterEmployee, m_def.FilterEmployee)
-    QD8_LIST_TEXT(FilterAR, m_def.FilterAR)
-    QD8_LIST_NUMBER(FilterARByEmp, m_def.FilterARByEmp)
-    QD8_LIST_TEXT(FilterAP, m_def.FilterAP)
-    QD8_LIST_TEXT(FilterDivision, m_def.FilterDivision)
-    QD8_LIST_TEXT(FilterProject, m_def.FilterProject)
-    QD8_LIST_TEXT(FilterProduct, m_def.FilterProduct)
-    QD8_LIST_NUMBER(FilterProductM, m_def.FilterProductM)
-    QD8_LIST_TEXT(FilterProductG, m_def.FilterProductG)
-    QD8_LIST_NUMBER(FilterProductT, m_def.FilterProductT)
-    QD8_LIST_TEXT(FilterDeliveryDate, m_def.FilterDeliveryDate)
-    QD8_LIST_TEXT(FilterArrear, m_def.FilterArrear)
-    QD8_LIST_TEXT(FilterInvArrear, m_def.FilterInvArrear)
-    QD8_LIST_TEXT(FilterStatus, m_def.FilterStatus)
-    QD8_LIST_TEXT(FilterStatus2, m_def.FilterStatus2)
-    QD8_LIST_TEXT(FilterDate, m_def.FilterDate)
+    QString OrderQuery() const { return m_def.OrderQuery; }
+    void setOrderQuery(const QString& value) { m_def.OrderQuery = value; }
+    QString OrderList() const { return m_def.OrderList; }
+    void setOrderList(const QString& value) { m_def.OrderList = value; }
+    int DefaultOrder() const { return m_def.DefaultOrder; }
+    void setDefaultOrder(int value) { m_def.DefaultOrder = value; }
+    QString BACKDAYLIST() const { return m_def.BACKDAYLIST; }
+    void setBACKDAYLIST(const QString& value) { m_def.BACKDAYLIST = value; }
+    QString FILTER2() const { return m_def.FILTER2; }
+    void setFILTER2(const QString& value) { m_def.FILTER2 = value; }
+    QString FILTER3() const { return m_def.FILTER3; }
+    void setFILTER3(const QString& value) { m_def.FILTER3 = value; }
+    QString FilterEmployee() const { return m_def.FilterEmployee; }
+    void setFilterEmployee(const QString& value) { m_def.FilterEmployee = value; }
+    QString FilterAR() const { return m_def.FilterAR; }
+    void setFilterAR(const QString& value) { m_def.FilterAR = value; }
+    int FilterARByEmp() const { return m_def.FilterARByEmp; }
+    void setFilterARByEmp(int value) { m_def.FilterARByEmp = value; }
+    QString FilterAP() const { return m_def.FilterAP; }
+    void setFilterAP(const QString& value) { m_def.FilterAP = value; }
+    QString FilterDivision() const { return m_def.FilterDivision; }
+    void setFilterDivision(const QString& value) { m_def.FilterDivision = value; }
+    QString FilterProject() const { return m_def.FilterProject; }
+    void setFilterProject(const QString& value) { m_def.FilterProject = value; }
+    QString FilterProduct() const { return m_def.FilterProduct; }
+    void setFilterProduct(const QString& value) { m_def.FilterProduct = value; }
+    int FilterProductM() const { return m_def.FilterProductM; }
+    void setFilterProductM(int value) { m_def.FilterProductM = value; }
+    QString FilterProductG() const { return m_def.FilterProductG; }
+    void setFilterProductG(const QString& value) { m_def.FilterProductG = value; }
+    int FilterProductT() const { return m_def.FilterProductT; }
+    void setFilterProductT(int value) { m_def.FilterProductT = value; }
+    QString FilterDeliveryDate() const { return m_def.FilterDeliveryDate; }
+    void setFilterDeliveryDate(const QString& value) { m_def.FilterDeliveryDate = value; }
+    QString FilterArrear() const { return m_def.FilterArrear; }
+    void setFilterArrear(const QString& value) { m_def.FilterArrear = value; }
+    QString FilterInvArrear() const { return m_def.FilterInvArrear; }
+    void setFilterInvArrear(const QString& value) { m_def.FilterInvArrear = value; }
+    QString FilterStatus() const { return m_def.FilterStatus; }
+    void setFilterStatus(const QString& value) { m_def.FilterStatus = value; }
+    QString FilterStatus2() const { return m_def.FilterStatus2; }
+    void setFilterStatus2(const QString& value) { m_def.FilterStatus2 = value; }
+    QString FilterDate() const { return m_def.FilterDate; }
+    void setFilterDate(const QString& value) { m_def.FilterDate = value; }
 
     // SetFilter2 with the employee-type restriction applied.
     void SetFilter(const QString& iCommandAlias, const QString& iCommandGroup, std::shared_ptr<DataObject> iDataObj,
@@ -77,9 +100,8 @@ public:
         std::shared_ptr<AppObject> iAppObj, std::shared_ptr<ClientObject> iClientObj, FormCollection* iForms,
         const QString& iLCaption, const QString& iFCaption, bool iDoFilterEmployee);
 
-    // The condition a status code adds for the column prefix; codes "8".."10" take their
-    // condition from `customConditions`. "7" and unknown codes add nothing.
-    static QString statusCondition(const QString& code, const QString& prefix, const QStringList& customConditions);
+    // The filter panel's choices as values.
+    DocumentFilter currentFilter();
 
 protected:
     Sql composeWhere() override;
@@ -111,8 +133,8 @@ private:
     QComboBox* addCombo(const char* name, const QString& caption, const QStringList& captions, int current);
     void applyBackDays();
     void select();
-    // A bad date in a filled date box, named for the message; "" when all are dates or blank.
-    QString badDate() const;
+    // What is wrong with the boxes (a bad date, a quote), naming the box; "" when nothing.
+    QString badInput() const;
 
     bool m_doFilterEmployee = true;
     int m_hrFilter = 0;

@@ -80,7 +80,7 @@ void ListControl::buildView()
     connect(m_view, &DataView::deleteRequested, this, &ListControl::onDelete);
     connect(m_view, &DataView::closeRequested, this, &ListControl::CloseAction);
     connect(m_view, &DataView::totalKnown, this, &ListControl::showTotal);
-    connect(m_view, &DataView::fetchFailed, this, &ListControl::reportError);
+    connect(m_view, &DataView::fetchFailed, this, &ListControl::loadFailed);
 
     auto* bottom = new QHBoxLayout;
     m_legendLayout = new QHBoxLayout;
@@ -107,10 +107,8 @@ bool ListControl::loadDefinition(const QString& iCommandAlias, const QString& iC
     const QString& iLCaption, const QString& iFCaption)
 {
     SetFirst(iDataObj, iAppObj, iClientObj);
-    if (DataConnectionString().isEmpty() && iDataObj)
-        setDataConnectionString(iDataObj->connectionString());
-    if (AppConnectionString().isEmpty() && iDataObj)
-        setAppConnectionString(iDataObj->appConnectionString());
+    if (!m_commandAlias.isEmpty() && m_commandAlias != iCommandAlias)
+        m_prefixFromHost = false;  // another list: nothing of the old definition stays
     m_commandAlias = iCommandAlias;
     setCommandGroup(iCommandGroup);
     m_forms = iForms;
@@ -118,7 +116,13 @@ bool ListControl::loadDefinition(const QString& iCommandAlias, const QString& iC
     m_fCaption = iFCaption;
     m_filter1Read = false;
     m_permission.reset();
+    m_placeholders.reset();  // options of this session, read again
 
+    try {
+        takeSessionFromDataObject();
+    } catch (const DbError& e) {
+        loadFailed(e.message());  // the list still loads, in the language it had
+    }
     try {
         m_projectLevel = SessionServices::listService()
                              .LookupValue(0, QStringLiteral("TUsrID"), UserID(), QStringLiteral("TUsrProjectLevel"),
@@ -127,9 +131,8 @@ bool ListControl::loadDefinition(const QString& iCommandAlias, const QString& iC
         const double menu = dataObject() ? dataObject()->optionNumber(iCommandAlias + QStringLiteral("Menu")) : 0;
         m_def = ListDefinition::load(ListDefinition::variantAlias(iCommandAlias, menu), AppConnectionString(), LanguageID());
         m_def.WidthList = ListDefinition::costWidths(m_def.WidthList, permission());
-        if (m_prefix.isEmpty())
+        if (!m_prefixFromHost)
             m_prefix = ListDefinition::prefixOfKey(m_def.PKey);
-        m_placeholders.reset();  // options of this session, read again
         // Captions may name the company's custom fields ({Custom1}, {MRPGROUPCAPTION} ...).
         for (QString* caption : {&m_def.NameList, &m_def.Filter2Caption, &m_def.Filter3Caption, &m_def.FilterEmpLabel,
                  &m_def.FilterDateCaption, &m_def.FilterArrearCaption, &m_def.FilterInvArrearCaption, &m_def.FilterStatusCaptions,
@@ -140,7 +143,7 @@ bool ListControl::loadDefinition(const QString& iCommandAlias, const QString& iC
             m_legend.readOptions(*dataObject());
     } catch (const DbError& e) {
         m_def = ListDefinition{};
-        reportError(e.message());
+        loadFailed(e.message());
     }
     applyDefinitionToView();
     showLegend();
@@ -154,7 +157,7 @@ void ListControl::applyDefinitionToView()
         m_view->setColumns(m_def.ColumnList, m_def.NameList, m_def.WidthList, m_def.TypeList, m_def.rowHeight);
     } catch (const DbError& e) {
         m_def.found = false;
-        reportError(e.message());
+        loadFailed(e.message());
     }
     m_view->setKeyFields(splitList(m_def.PrimaryKeyList));
     const QString mode = m_def.buttonMode.trimmed().toUpper();
@@ -221,7 +224,7 @@ void ListControl::runQuery()
         m_view->open(m_select, count, DataConnectionString());
     } catch (const DbError& e) {
         m_count->setText(QString());
-        reportError(e.message());
+        loadFailed(e.message());
         return;
     }
     if (!current.isEmpty()) {
@@ -305,7 +308,7 @@ QString ListControl::pickCode(const QString& title, const QString& keyField, con
             bilingual("รหัส,ชื่อ", "Code,Name"), QStringLiteral("1800,5000"), QStringLiteral("0,0"), source, DataConnectionString(),
             0, 0, 0, 0, 0, 0);
     } catch (const DbError& e) {
-        reportError(e.message());
+        loadFailed(e.message());
         return {};
     }
 }
@@ -315,7 +318,7 @@ QString ListControl::pickFromQuickForm(const QString& alias)
     try {
         return QuickFormPick(alias, AppConnectionString(), DataConnectionString());
     } catch (const DbError& e) {
-        reportError(e.message());
+        loadFailed(e.message());
         return {};
     }
 }
@@ -339,7 +342,7 @@ void ListControl::readFilter1()
                                  QStringLiteral("QD8TQuickForm"), AppConnectionString())
                            .toString();
     } catch (const DbError& e) {
-        reportError(e.message());
+        loadFailed(e.message());
     }
     if (m_filter1Caption.isEmpty())
         m_filter1Caption = m_def.Filter1;
@@ -355,6 +358,11 @@ QString ListControl::filter1KeyField()
 {
     readFilter1();
     return splitList(m_filter1Key).value(0).trimmed();
+}
+
+void ListControl::loadFailed(const QString& text)
+{
+    Q_EMIT statementFailed(text);
 }
 
 void ListControl::reportError(const QString& text)

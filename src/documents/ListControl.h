@@ -24,13 +24,6 @@ class FormCollection;
 // its properties, the data view with its legend colours, the count line, the detail form
 // they open through the host's form collection, the auto-refresh timer and the three
 // events. Each list composes its own WHERE text and builds its own filter panel.
-#define QD8_LIST_TEXT(Name, member) \
-    QString Name() const { return member; } \
-    void set##Name(const QString& value) { member = value; }
-#define QD8_LIST_NUMBER(Name, member) \
-    int Name() const { return member; } \
-    void set##Name(int value) { member = value; }
-
 class ListControl : public HostedControl {
     Q_OBJECT
     Q_PROPERTY(QString LCaption READ LCaption WRITE setLCaption)
@@ -68,37 +61,71 @@ public:
     explicit ListControl(QWidget* parent = nullptr);
     ~ListControl() override;
 
-    QD8_LIST_TEXT(LCaption, m_lCaption)
-    QD8_LIST_TEXT(FCaption, m_fCaption)
-    QD8_LIST_TEXT(DocNo, m_docNo)
-    QD8_LIST_TEXT(REPORTGROUP, m_reportGroup)
-    QD8_LIST_TEXT(CommandAlias, m_commandAlias)
-    QD8_LIST_TEXT(Prefix, m_prefix)
-    QD8_LIST_TEXT(TABLENAME, m_def.TABLENAME)
-    QD8_LIST_TEXT(PKey, m_def.PKey)
-    QD8_LIST_TEXT(PrimaryKeyList, m_def.PrimaryKeyList)
-    QD8_LIST_TEXT(Query, m_def.Query)
-    QD8_LIST_TEXT(CustomQuery, m_customQuery)
-    QD8_LIST_TEXT(CustomOrder, m_customOrder)
-    QD8_LIST_TEXT(ColumnList, m_def.ColumnList)
-    QD8_LIST_TEXT(NameList, m_def.NameList)
-    QD8_LIST_TEXT(WidthList, m_def.WidthList)
-    QD8_LIST_TEXT(TypeList, m_def.TypeList)
-    QD8_LIST_NUMBER(DefaultFilter, m_def.DefaultFilter)
-    QD8_LIST_TEXT(FilterCustom, m_def.FilterCustom)
-    QD8_LIST_TEXT(FilterCustom2, m_def.FilterCustom2)
-    QD8_LIST_TEXT(FilterCustomW, m_def.FilterCustomW)
-    QD8_LIST_TEXT(Filter1, m_def.Filter1)
-    QD8_LIST_TEXT(FormDetail, m_def.FormDetail)
-    QD8_LIST_TEXT(FormFunction, m_def.FormFunction)
-    QD8_LIST_TEXT(ExtraSearch, m_def.ExtraSearch)
-    QD8_LIST_TEXT(SwitchOption, m_def.SwitchOption)
-    QD8_LIST_TEXT(LegendList, m_def.LegendList)
+    QString LCaption() const { return m_lCaption; }
+    void setLCaption(const QString& value) { m_lCaption = value; }
+    QString FCaption() const { return m_fCaption; }
+    void setFCaption(const QString& value) { m_fCaption = value; }
+    QString DocNo() const { return m_docNo; }
+    void setDocNo(const QString& value) { m_docNo = value; }
+    QString REPORTGROUP() const { return m_reportGroup; }
+    void setREPORTGROUP(const QString& value) { m_reportGroup = value; }
+    QString CommandAlias() const { return m_commandAlias; }
+    void setCommandAlias(const QString& value) { m_commandAlias = value; }
+    QString Prefix() const { return m_prefix; }
+    // A prefix the host sets stands until the list is given another definition.
+    void setPrefix(const QString& value)
+    {
+        m_prefix = value;
+        m_prefixFromHost = true;
+    }
+    QString TABLENAME() const { return m_def.TABLENAME; }
+    void setTABLENAME(const QString& value) { m_def.TABLENAME = value; }
+    QString PKey() const { return m_def.PKey; }
+    void setPKey(const QString& value) { m_def.PKey = value; }
+    QString PrimaryKeyList() const { return m_def.PrimaryKeyList; }
+    void setPrimaryKeyList(const QString& value) { m_def.PrimaryKeyList = value; }
+    QString Query() const { return m_def.Query; }
+    void setQuery(const QString& value) { m_def.Query = value; }
+    QString CustomQuery() const { return m_customQuery; }
+    void setCustomQuery(const QString& value) { m_customQuery = value; }
+    QString CustomOrder() const { return m_customOrder; }
+    void setCustomOrder(const QString& value) { m_customOrder = value; }
+    QString ColumnList() const { return m_def.ColumnList; }
+    void setColumnList(const QString& value) { m_def.ColumnList = value; }
+    QString NameList() const { return m_def.NameList; }
+    void setNameList(const QString& value) { m_def.NameList = value; }
+    QString WidthList() const { return m_def.WidthList; }
+    void setWidthList(const QString& value) { m_def.WidthList = value; }
+    QString TypeList() const { return m_def.TypeList; }
+    void setTypeList(const QString& value) { m_def.TypeList = value; }
+    int DefaultFilter() const { return m_def.DefaultFilter; }
+    void setDefaultFilter(int value) { m_def.DefaultFilter = value; }
+    QString FilterCustom() const { return m_def.FilterCustom; }
+    void setFilterCustom(const QString& value) { m_def.FilterCustom = value; }
+    QString FilterCustom2() const { return m_def.FilterCustom2; }
+    void setFilterCustom2(const QString& value) { m_def.FilterCustom2 = value; }
+    QString FilterCustomW() const { return m_def.FilterCustomW; }
+    void setFilterCustomW(const QString& value) { m_def.FilterCustomW = value; }
+    QString Filter1() const { return m_def.Filter1; }
+    void setFilter1(const QString& value) { m_def.Filter1 = value; }
+    QString FormDetail() const { return m_def.FormDetail; }
+    void setFormDetail(const QString& value) { m_def.FormDetail = value; }
+    QString FormFunction() const { return m_def.FormFunction; }
+    void setFormFunction(const QString& value) { m_def.FormFunction = value; }
+    QString ExtraSearch() const { return m_def.ExtraSearch; }
+    void setExtraSearch(const QString& value) { m_def.ExtraSearch = value; }
+    QString SwitchOption() const { return m_def.SwitchOption; }
+    void setSwitchOption(const QString& value) { m_def.SwitchOption = value; }
+    QString LegendList() const { return m_def.LegendList; }
+    void setLegendList(const QString& value) { m_def.LegendList = value; }
     bool TestMode() const { return m_testMode; }
     void setTestMode(bool value) { m_testMode = value; }
-    QD8_LIST_NUMBER(DeleteActionMode, m_def.DeleteActionMode)
-    QD8_LIST_TEXT(DeleteActionCaption, m_def.DeleteActionCaption)
-    QD8_LIST_TEXT(AutoRefresh, m_def.AutoRefresh)
+    int DeleteActionMode() const { return m_def.DeleteActionMode; }
+    void setDeleteActionMode(int value) { m_def.DeleteActionMode = value; }
+    QString DeleteActionCaption() const { return m_def.DeleteActionCaption; }
+    void setDeleteActionCaption(const QString& value) { m_def.DeleteActionCaption = value; }
+    QString AutoRefresh() const { return m_def.AutoRefresh; }
+    void setAutoRefresh(const QString& value) { m_def.AutoRefresh = value; }
 
     const ListDefinition& definition() const { return m_def; }
 
@@ -126,6 +153,9 @@ Q_SIGNALS:
     void CloseAction();
     void ChangeCaption(const QString& iCaption, const QString& iCommandAlias);
     void DeleteAction(const QString& SelectRowData);
+    // A statement of the list's loading failed: the list stays empty or partial and shows
+    // no message; hosts and tests hear of it here (and through SqlTrace).
+    void statementFailed(const QString& message);
 
 protected:
     // Loads the definition of the command (the session objects, the variant switch, the
@@ -159,6 +189,9 @@ protected:
     QString pickFromQuickForm(const QString& alias);
     QString filter1Caption();
     QString filter1KeyField();
+    // A failed read while loading or filtering: no message box, only statementFailed.
+    void loadFailed(const QString& text);
+    // A message to the user about something he asked for (a form to open).
     void reportError(const QString& text);
 
     ListDefinition m_def;
@@ -181,6 +214,7 @@ private:
     void showSelect();
 
     QString m_lCaption, m_fCaption, m_docNo, m_reportGroup, m_commandAlias, m_prefix;
+    bool m_prefixFromHost = false;
     QString m_customQuery, m_customOrder;
     bool m_testMode = false;
 

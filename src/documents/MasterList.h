@@ -18,7 +18,8 @@ public:
     explicit MasterList(QWidget* parent = nullptr);
     ~MasterList() override;
 
-    QD8_LIST_TEXT(Filter1W, m_def.Filter1W)
+    QString Filter1W() const { return m_def.Filter1W; }
+    void setFilter1W(const QString& value) { m_def.Filter1W = value; }
 
     // Loads the definition of the command, builds the filter panel and reads the rows.
     void SetFilter(const QString& iCommandAlias, const QString& iCommandGroup, std::shared_ptr<DataObject> iDataObj,

@@ -18,15 +18,12 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
+#include <QThreadPool>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <array>
-#include <atomic>
 #include <mutex>
 #include <optional>
-#include <system_error>
-#include <thread>
-#include <vector>
 
 namespace qd8 {
 
@@ -63,64 +60,24 @@ constexpr std::array<ButtonText, 5> Buttons{{
     {DataView::Button::Close, "btnClose", "ปิด"},
 }};
 
-// Where a count thread hands its result: the view while it lives.
+// Where a count hands its result: the view while it lives.
 struct CountReceiver {
     std::mutex mutex;
     DataView* view = nullptr;
 };
 
-// Count threads outlive the views that started them: a count cannot be stopped half-way,
-// and a view must close at once. Each thread is joined once done, and the last ones at exit
-// while the connection pool is still there.
-class CountThreads {
-public:
-    static CountThreads& instance()
-    {
-        static CountThreads threads;
-        return threads;
-    }
-
-    ~CountThreads()
-    {
-        for (Running& running : m_running)
-            running.thread.join();
-    }
-
-    void start(std::function<void()> work)
-    {
-        std::lock_guard lock(m_mutex);
-        reapFinished();
-        auto done = std::make_shared<std::atomic<bool>>(false);
-        m_running.push_back({std::thread([work = std::move(work), done] {
-            work();
-            done->store(true);
-        }),
-            done});
-    }
-
-private:
-    // Made after the pool, so destroyed before it.
-    CountThreads() { ConnectionPool::instance(); }
-
-    void reapFinished()
-    {
-        for (auto it = m_running.begin(); it != m_running.end();) {
-            if (it->done->load()) {
-                it->thread.join();
-                it = m_running.erase(it);
-            } else {
-                ++it;
-            }
-        }
-    }
-
-    struct Running {
-        std::thread thread;
-        std::shared_ptr<std::atomic<bool>> done;
-    };
-    std::mutex m_mutex;
-    std::vector<Running> m_running;
-};
+// Counts run on a pool of their own: a count cannot be stopped half-way and a view must
+// close at once, so a count may outlive its view. The pool is made after the connection
+// pool, so at exit it waits for the last counts while their connections are still there.
+QThreadPool& countPool()
+{
+    static QThreadPool* pool = [] {
+        ConnectionPool::instance();
+        static QThreadPool threads;
+        return &threads;
+    }();
+    return *pool;
+}
 
 } // namespace
 
@@ -268,13 +225,9 @@ void DataView::Private::startPendingCount()
 
 void DataView::Private::startCount(const Sql& count, const QString& connectionString)
 {
-    try {
-        CountThreads::instance().start([count, connectionString, receiver = receiver, generation = generation] {
-            runCount(count, connectionString, receiver, generation);
-        });
-    } catch (const std::system_error&) {
-        QMetaObject::invokeMethod(q, [this, generation = generation] { countArrived(generation, -1); }, Qt::QueuedConnection);
-    }
+    countPool().start([count, connectionString, receiver = receiver, generation = generation] {
+        runCount(count, connectionString, receiver, generation);
+    });
 }
 
 void DataView::Private::runCount(const Sql& count, const QString& connectionString, std::shared_ptr<CountReceiver> receiver,

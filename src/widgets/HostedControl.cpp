@@ -25,6 +25,13 @@ qint32 toLong(const QString& text)
     return qint32(std::nearbyint(value));
 }
 
+// The user's "LanguageID" setting, rounded; DbError when it cannot be read.
+qint16 userLanguage(qint32 userId, const QString& connectionString)
+{
+    const double language = SessionServices::sessionFunctions().GetUserSetting(userId, QStringLiteral("LanguageID"), connectionString);
+    return qint16(std::nearbyint(language));
+}
+
 } // namespace
 
 HostedControl::HostedControl(QWidget* parent)
@@ -47,6 +54,17 @@ void HostedControl::SetFirst(std::shared_ptr<DataObject> iDataObj, std::shared_p
     m_clientObject = std::move(iClientObj);
 }
 
+void HostedControl::takeSessionFromDataObject()
+{
+    if (!m_dataObject)
+        return;
+    m_session.DataConnectionString = m_dataObject->connectionString();
+    m_session.AppConnectionString = m_dataObject->appConnectionString();
+    m_session.UserID = m_dataObject->userId();
+    m_session.UserLoginName = m_dataObject->userLoginName();
+    m_session.LanguageID = userLanguage(m_session.UserID, m_session.DataConnectionString);
+}
+
 void HostedControl::SetLast(const QString& FolderPathName, const QString& ControlName, const QString& UserID)
 {
     SetLast2(FolderPathName, ControlName, UserID, QString(), QString());
@@ -60,8 +78,7 @@ void HostedControl::SetLast2(const QString& FolderPathName, const QString& Contr
     m_session.DataConnectionString = DataConnectionString;
     m_session.AppConnectionString = AppConnectionString;
     m_session.UserID = toLong(UserID);
-    const double language = SessionServices::sessionFunctions().GetUserSetting(m_session.UserID, QStringLiteral("LanguageID"), DataConnectionString);
-    m_session.LanguageID = qint16(std::nearbyint(language));
+    m_session.LanguageID = userLanguage(m_session.UserID, DataConnectionString);
     m_session.FolderPathName = withTrailingBackslash(FolderPathName);
 }
 

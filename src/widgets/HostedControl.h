@@ -126,6 +126,10 @@ protected:
     void registerToolButton(const QString& key, QObject* button);
     QObject* toolButton(const QString& key) const;
     SessionContext& mutableSession() { return m_session; }
+    // For controls handed only the session objects: the databases and the user of the data
+    // object, and the language of that user's "LanguageID" setting (DbError when it cannot
+    // be read; everything but the language is taken by then).
+    void takeSessionFromDataObject();
 
 private:
     SessionContext m_session;

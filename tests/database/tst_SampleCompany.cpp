@@ -428,7 +428,7 @@ TEST_P(SampleListsTest, EveryDocumentListHoldsDocumentsInEveryStatusAndDueDatesA
         SCOPED_TRACE(d.alias().toStdString());
         const QString p = prefixOf(d);
         for (int code = 0; code <= 6; ++code)
-            EXPECT_GT(count(d, DucumentList::statusCondition(QString::number(code), p, {})), 0) << "status " << code;
+            EXPECT_GT(count(d, DocumentFilter::statusCondition(QString::number(code), p, {})), 0) << "status " << code;
         const QString open = QStringLiteral(" AND %1CancelStatus<>1").arg(p);
         EXPECT_GT(count(d, open + QStringLiteral(" AND %1DueDate<%2").arg(p, today)), 0) << "nothing overdue";
         EXPECT_GT(count(d, open + QStringLiteral(" AND %1DueDate>=%2 AND %1DueDate<=%3").arg(p, today, inAWeek)), 0)
@@ -524,7 +524,7 @@ TEST_P(GenerateDocumentsTest, AddsExactlyTheRowsAskedWithNewNumbersEveryStatusAn
         const QString generated = QStringLiteral(" FROM %1 WHERE %2CreateDate IS NOT NULL AND %2RefNo LIKE 'REF-%'").arg(t, p);
         EXPECT_EQ(number(QStringLiteral("SELECT COUNT(*)") + generated), 2 * rows);
         for (int code = 0; code <= 6; ++code)
-            EXPECT_GT(number(QStringLiteral("SELECT COUNT(*)") + generated + DucumentList::statusCondition(QString::number(code), p, {})), 0)
+            EXPECT_GT(number(QStringLiteral("SELECT COUNT(*)") + generated + DocumentFilter::statusCondition(QString::number(code), p, {})), 0)
                 << "status " << code;
         EXPECT_EQ(number(QStringLiteral("SELECT COUNT(*)") + generated + QStringLiteral(" AND (%1Date<%2 OR %1Date>%3)").arg(p, oldest, today)), 0)
             << "a date outside the last three years";

@@ -64,11 +64,11 @@ TEST_P(CaptionPlaceholdersTest, PlaceholdersReadTheCompanyOptions)
         {"{Custom1}", "สีรถ"},
         {"{custom1}", "สีรถ"},
         {"{CUSTOM3}", "Size"},
-        {"{Custom2}", "Custom2"},
+        {"{Custom2}", ""},
         {"{ICCustom2}", "รุ่น"},
-        {"{ICCustom1}", "ICCustom1"},
+        {"{ICCustom1}", ""},
         {"{SECustom5}", "Zone"},
-        {"{secustom4}", "SECustom4"},
+        {"{secustom4}", ""},
         {"{JobCodeCaption}", "เลขที่งาน"},
         {"{MRPSECTIONCAPTION}", "หมวดสินค้า"},
         {"{MRPGroupCaption}", " กลุ่มสินค้า"},
@@ -133,7 +133,7 @@ TEST_P(CaptionPlaceholdersTest, TextsAndNumbersAreTheExpandedTextTrimmed)
         {"{Custom4}", "1500.25", 1500.25},
         {" 12.5 ", "12.5", 12.5},
         {"-3", "-3", -3},
-        {"{Custom2}", "Custom2", 0},
+        {"{Custom2}", "", 0},
         {"12abc", "12abc", 0},
         {"", "", 0},
     };
@@ -180,7 +180,7 @@ TEST(CaptionPlaceholders, WithoutOptionsEveryPlaceholderShowsItsDefault)
 {
     CaptionPlaceholders p(nullptr, QString());
     EXPECT_EQ(p.ReplaceCustomCaption(QStringLiteral("{Custom1}|{ICCustom5}|{JobCodeCaption}|{MRPSECTIONCAPTION}|{MRPGROUPCAPTION}|{MRPFORMULAMAJORNAME}")),
-        QString::fromUtf8("Custom1|ICCustom5|รหัสงาน|หมวดสินค้า| กลุ่มสินค้า|รหัสสูตร"));
+        QString::fromUtf8("|||หมวดสินค้า| กลุ่มสินค้า|รหัสสูตร"));
 }
 
 } // namespace
