@@ -125,6 +125,42 @@ TEST(DocumentToolBarTools, FolderButtonsRunTheirProgramOrSayWhichFolderIsMissing
     }
 }
 
+TEST(DocumentToolBarTools, ClientConfigurationStartsWithTheLoginAndRemindsToLinkTheCommands)
+{
+    const QString reminder = QStringLiteral("Client Configuration: ท่านต้องเชื่อมคำสั่งในแต่ระบบจาก Application Center ของแต่ละเครื่อง");
+    const struct {
+        const char* program;
+        const char* systemFolder;
+        bool starts;
+        QStringList run;
+        QStringList shown;  // "title: text"
+    } cases[] = {
+        {"D:\\Tools\\Setup.exe", "", true, {"run:D:\\Tools\\Setup.exe /U=somchai /P=s3cret:0"}, {reminder}},
+        {"", "C:\\QD8", true, {"run:C:\\QD8\\QD8ClientConfig.exe /U=somchai /P=s3cret:0"}, {reminder}},
+        {"", "", true, {}, {"System Configuration: ไม่ได้กำหนด System folder"}},
+        {"", "C:\\QD8", false, {"run:C:\\QD8\\QD8ClientConfig.exe /U=somchai /P=s3cret:0"},
+            {"System Configuration: Cannot start C:\\QD8\\QD8ClientConfig.exe /U=somchai /P=s3cret"}},
+    };
+    for (const auto& c : cases) {
+        installScriptedServices();
+        scriptedShell().starts = c.starts;
+        DocumentToolBar bar;
+        bar.setUserLoginName("somchai");
+        bar.setUserLoginPassword("s3cret");
+        bar.setSystemFolder(QString::fromUtf8(c.systemFolder));
+        // Late bound, as a host form calls it.
+        const bool called = QString::fromUtf8(c.program).isEmpty()
+            ? QMetaObject::invokeMethod(&bar, "ClientConfiguration")
+            : QMetaObject::invokeMethod(&bar, "ClientConfiguration", Q_ARG(QString, QString::fromUtf8(c.program)));
+        ASSERT_TRUE(called) << c.program;
+        EXPECT_EQ(scriptedShell().commands, c.run) << c.program;
+        QStringList shown;
+        for (const auto& m : scriptedMessages().shown)
+            shown << m.title + QStringLiteral(": ") + m.text;
+        EXPECT_EQ(shown, c.shown) << c.program;
+    }
+}
+
 TEST(DocumentToolBarTools, TheOemShortNameComesFromTheThemeFileOrIsNUV)
 {
     QTemporaryDir app;
