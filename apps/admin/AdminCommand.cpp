@@ -187,6 +187,10 @@ int AdminCommand::initDatabases(const QStringList& connectionStrings, bool force
         m_out << Schema::fileName(role) << ": " << Schema::objectNames(role).size() << " tables and views, "
               << rows << " sample rows\n    " << cs << '\n';
     }
+    // The session database's own statements reach the catalogue by plain names.
+    if (Schema::linkCatalogue(connectionStrings[2], connectionStrings[0]))
+        m_out << Schema::fileName(DatabaseRole::CompanyData) << " reaches " << Schema::linkedCatalogueNames().join(QStringLiteral(", "))
+              << " of " << Schema::fileName(DatabaseRole::Application) << " through postgres_fdw (server qd8_catalogue)\n";
     m_out << "Sample company created in " << timer.elapsed() << " ms.\n";
     m_out.flush();
     return 0;
