@@ -285,7 +285,7 @@ QList<Schema::Problem> Schema::check(const QString& connectionString, DatabaseRo
     Connection connection;
     connection.open(connectionString);
     QList<Problem> problems = missing(connection, role, objectNames(role));
-    if (role == DatabaseRole::CompanyData && connection.engine() == Engine::PostgreSQL)
+    if (holdsCatalogueLink(connectionString, role))
         problems += missing(connection, DatabaseRole::Application, linkedCatalogueNames());
     return problems;
 }
@@ -295,10 +295,15 @@ QStringList Schema::linkedCatalogueNames()
     return {QStringLiteral("QD8TCommand")};
 }
 
+bool Schema::holdsCatalogueLink(const QString& connectionString, DatabaseRole role)
+{
+    return role == DatabaseRole::CompanyData && ConnectionString::parse(connectionString).engine() == Engine::PostgreSQL;
+}
+
 bool Schema::linkCatalogue(const QString& sessionConnectionString, const QString& appConnectionString)
 {
     const ConnectionString app = ConnectionString::parse(appConnectionString);
-    if (app.engine() != Engine::PostgreSQL || ConnectionString::parse(sessionConnectionString).engine() != Engine::PostgreSQL)
+    if (!holdsCatalogueLink(sessionConnectionString, DatabaseRole::CompanyData) || app.engine() != Engine::PostgreSQL)
         return false;
     const auto [serverOptions, userOptions] = catalogueServerOptions(app);
     Connection session;

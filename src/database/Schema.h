@@ -46,6 +46,9 @@ public:
     // returns true. SQLite links per connection instead ("Attach=<QD8Command.dat>" in the
     // session connection string): nothing to create, false; likewise for two engines.
     static bool linkCatalogue(const QString& sessionConnectionString, const QString& appConnectionString);
+    // Whether a database of the role holds those tables as a link of its own (a PostgreSQL
+    // session database), which check() then checks too.
+    static bool holdsCatalogueLink(const QString& connectionString, DatabaseRole role);
 
     struct Problem {
         QString table;
