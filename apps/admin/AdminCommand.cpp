@@ -48,10 +48,12 @@ int AdminCommand::usage()
              "      (or in FILES): Icons/ (the catalogue's icons), Support/Theme/Theme.ini, QD8STARTUP.INI\n"
              "  qd8-admin init --app CONN --center CONN --data CONN [--files DIR] [--force]\n"
              "      the same on the databases the connection strings name (PostgreSQL databases are\n"
-             "      created when missing); the files of the installation go to DIR when given\n"
+             "      created when missing, and the data database gets read-only postgres_fdw tables of\n"
+             "      the catalogue it joins); the files of the installation go to DIR when given\n"
              "  --force replaces databases and files that exist\n"
              "  qd8-admin check CONN [--role app|center|data]\n"
-             "      reports the tables, views and columns the database lacks\n"
+             "      reports the tables, views and columns the database lacks (on PostgreSQL the data\n"
+             "      database's catalogue tables too)\n"
              "  qd8-admin generate documents --rows N [--list ALIAS] (DIR | --data CONN)\n"
              "      adds N made-up documents to the table of a document list (default PURPR) in the\n"
              "      company data database QD8Data.dat of DIR, or in the one CONN names; lists: "
@@ -187,6 +189,10 @@ int AdminCommand::initDatabases(const QStringList& connectionStrings, bool force
         m_out << Schema::fileName(role) << ": " << Schema::objectNames(role).size() << " tables and views, "
               << rows << " sample rows\n    " << cs << '\n';
     }
+    // The session database's own statements reach the catalogue by plain names.
+    if (Schema::linkCatalogue(connectionStrings[2], connectionStrings[0]))
+        m_out << Schema::fileName(DatabaseRole::CompanyData) << " reaches " << Schema::linkedCatalogueNames().join(QStringLiteral(", "))
+              << " of " << Schema::fileName(DatabaseRole::Application) << " through postgres_fdw (server qd8_catalogue)\n";
     m_out << "Sample company created in " << timer.elapsed() << " ms.\n";
     m_out.flush();
     return 0;
@@ -216,8 +222,11 @@ int AdminCommand::check(const QStringList& arguments)
         else
             m_out << "missing columns in " << p.table << ": " << p.missingColumns.join(QStringLiteral(", ")) << '\n';
     }
+    qsizetype checked = Schema::objectNames(role).size();
+    if (Schema::holdsCatalogueLink(cs, role))
+        checked += Schema::linkedCatalogueNames().size();
     m_out << (problems.isEmpty() ? "OK: " : "Problems: ") << problems.size() << " of "
-          << Schema::objectNames(role).size() << " tables and views of the " << Schema::roleName(role)
+          << checked << " tables and views of the " << Schema::roleName(role)
           << " database are missing or incomplete\n";
     m_out.flush();
     return problems.isEmpty() ? 0 : 1;

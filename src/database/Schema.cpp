@@ -8,6 +8,8 @@
 
 #include <QFile>
 #include <QRegularExpression>
+#include <QScopeGuard>
+#include <libpq-fe.h>
 
 namespace qd8 {
 
@@ -62,6 +64,73 @@ QString forEngine(QString statement, Engine engine)
         return statement;
     out += QStringView(statement).mid(from);
     return out;
+}
+
+// The tables a role's DDL creates, built in a private in-memory database to compare with.
+std::unique_ptr<Backend> reference(DatabaseRole role)
+{
+    auto backend = openBackend(ConnectionString::parse(QStringLiteral("Data Source=:memory:")));
+    for (const QString& statement : Schema::statements(Schema::ddl(role)))
+        backend->execute(statement, {});
+    return backend;
+}
+
+// The named tables and views of the role's DDL that the connection lacks, whole or in part.
+QList<Schema::Problem> missing(Connection& connection, DatabaseRole role, const QStringList& names)
+{
+    const auto referenceBackend = reference(role);
+    QList<Schema::Problem> problems;
+    for (const QString& name : names) {
+        QStringList expected;
+        {
+            auto rows = referenceBackend->query(QStringLiteral("SELECT * FROM ") + name + QStringLiteral(" WHERE 1=0"), {});
+            for (const auto& column : rows->columns())
+                expected << column.name.toLower();
+        }
+        QStringList present;
+        try {
+            present = columnsOf(connection, name);
+        } catch (const DbError&) {
+            problems.append({name, {}});
+            if (connection.inTransaction())
+                connection.rollbackTrans();
+            continue;
+        }
+        QStringList lacking;
+        for (const QString& column : expected)
+            if (!present.contains(column))
+                lacking << column;
+        if (!lacking.isEmpty())
+            problems.append({name, lacking});
+    }
+    return problems;
+}
+
+QString sqlLiteral(const QString& value)
+{
+    return QLatin1Char('\'') + QString(value).replace(QLatin1Char('\''), QStringLiteral("''")) + QLatin1Char('\'');
+}
+
+// How the server reaches the catalogue database: the host, port, database, user and
+// password that libpq itself uses for the application connection string (its own keys,
+// else the PG* variables), as postgres_fdw's server and user-mapping options.
+std::pair<QString, QString> catalogueServerOptions(const ConnectionString& app)
+{
+    PGconn* conn = PQconnectdb(app.libpqConnInfo().toUtf8().constData());
+    const auto finish = qScopeGuard([conn] { PQfinish(conn); });
+    if (PQstatus(conn) != CONNECTION_OK)
+        throw DbError(DbError::Kind::Connection,
+            QStringLiteral("Cannot reach the application database to link its catalogue: ") + QString::fromUtf8(PQerrorMessage(conn)).trimmed());
+    const auto options = [](std::initializer_list<std::pair<const char*, const char*>> pairs) {
+        QStringList out;
+        for (const auto& [name, value] : pairs)
+            if (value && *value)
+                out << QLatin1String(name) + QLatin1Char(' ') + sqlLiteral(QString::fromUtf8(value));
+        return out.join(QStringLiteral(", "));
+    };
+    // Through the catalogue's link nobody changes the catalogue.
+    return {options({{"host", PQhost(conn)}, {"port", PQport(conn)}, {"dbname", PQdb(conn)}, {"updatable", "false"}}),
+        options({{"user", PQuser(conn)}, {"password", PQpass(conn)}})};
 }
 
 } // namespace
@@ -213,38 +282,44 @@ QStringList Schema::objectNames(DatabaseRole role)
 
 QList<Schema::Problem> Schema::check(const QString& connectionString, DatabaseRole role)
 {
-    // The reference is the schema itself, built in a private in-memory database.
-    const auto referenceBackend = openBackend(ConnectionString::parse(QStringLiteral("Data Source=:memory:")));
-    for (const QString& statement : statements(ddl(role)))
-        referenceBackend->execute(statement, {});
-
     Connection connection;
     connection.open(connectionString);
-    QList<Problem> problems;
-    for (const QString& name : objectNames(role)) {
-        QStringList expected;
-        {
-            auto rows = referenceBackend->query(QStringLiteral("SELECT * FROM ") + name + QStringLiteral(" WHERE 1=0"), {});
-            for (const auto& column : rows->columns())
-                expected << column.name.toLower();
-        }
-        QStringList present;
-        try {
-            present = columnsOf(connection, name);
-        } catch (const DbError&) {
-            problems.append({name, {}});
-            if (connection.inTransaction())
-                connection.rollbackTrans();
-            continue;
-        }
-        QStringList missing;
-        for (const QString& column : expected)
-            if (!present.contains(column))
-                missing << column;
-        if (!missing.isEmpty())
-            problems.append({name, missing});
-    }
+    QList<Problem> problems = missing(connection, role, objectNames(role));
+    if (holdsCatalogueLink(connectionString, role))
+        problems += missing(connection, DatabaseRole::Application, linkedCatalogueNames());
     return problems;
+}
+
+QStringList Schema::linkedCatalogueNames()
+{
+    return {QStringLiteral("QD8TCommand")};
+}
+
+bool Schema::holdsCatalogueLink(const QString& connectionString, DatabaseRole role)
+{
+    return role == DatabaseRole::CompanyData && ConnectionString::parse(connectionString).engine() == Engine::PostgreSQL;
+}
+
+bool Schema::linkCatalogue(const QString& sessionConnectionString, const QString& appConnectionString)
+{
+    const ConnectionString app = ConnectionString::parse(appConnectionString);
+    if (!holdsCatalogueLink(sessionConnectionString, DatabaseRole::CompanyData) || app.engine() != Engine::PostgreSQL)
+        return false;
+    const auto [serverOptions, userOptions] = catalogueServerOptions(app);
+    Connection session;
+    session.open(sessionConnectionString);
+    session.beginTrans();
+    session.execute(Sql("CREATE EXTENSION IF NOT EXISTS postgres_fdw"));
+    // Anew, so that a moved catalogue or a changed password takes effect; the user
+    // mapping and the foreign tables go with the server.
+    session.execute(Sql("DROP SERVER IF EXISTS qd8_catalogue CASCADE"));
+    session.execute(Sql("CREATE SERVER qd8_catalogue FOREIGN DATA WRAPPER postgres_fdw OPTIONS (") + serverOptions + ")");
+    // Every user of the session database reads the catalogue as the one who linked it.
+    session.execute(Sql("CREATE USER MAPPING FOR PUBLIC SERVER qd8_catalogue OPTIONS (") + userOptions + ")");
+    session.execute(Sql("IMPORT FOREIGN SCHEMA public LIMIT TO (") + linkedCatalogueNames().join(QStringLiteral(", "))
+        + ") FROM SERVER qd8_catalogue INTO public");
+    session.commitTrans();
+    return true;
 }
 
 } // namespace qd8

@@ -37,11 +37,25 @@ public:
     // Loads the sample company's rows of the role in one transaction; returns rows written.
     static qint64 loadSample(const QString& connectionString, DatabaseRole role);
 
+    // The catalogue tables of the application database that statements on the session
+    // (company data) database name: the ribbon's remove list joins QD8TCommand.
+    static QStringList linkedCatalogueNames();
+    // Makes those tables answer by their plain names on the session database. On
+    // PostgreSQL: read-only foreign tables of postgres_fdw (server "qd8_catalogue", signed
+    // in as the application connection's user and password), made anew on every call;
+    // returns true. SQLite links per connection instead ("Attach=<QD8Command.dat>" in the
+    // session connection string): nothing to create, false; likewise for two engines.
+    static bool linkCatalogue(const QString& sessionConnectionString, const QString& appConnectionString);
+    // Whether a database of the role holds those tables as a link of its own (a PostgreSQL
+    // session database), which check() then checks too.
+    static bool holdsCatalogueLink(const QString& connectionString, DatabaseRole role);
+
     struct Problem {
         QString table;
         QStringList missingColumns;  // empty: the whole table or view is missing
     };
-    // Tables, views and columns of the role that the database lacks.
+    // Tables, views and columns of the role that the database lacks; a PostgreSQL session
+    // database also needs the linked catalogue tables.
     static QList<Problem> check(const QString& connectionString, DatabaseRole role);
     // Every table and view name of the role, as the DDL spells it.
     static QStringList objectNames(DatabaseRole role);

@@ -1,12 +1,15 @@
 #include "navigation/DocumentToolBar.h"
 
 #include "database/LookupScope.h"
+#include "foundation/Services.h"
 
 #include <QHBoxLayout>
 #include <QStyle>
 #include <QToolButton>
 
 namespace qd8 {
+
+const QString DocumentToolBar::ClientConfigurationProgram = QStringLiteral("QD8ClientConfig.exe");
 
 namespace {
 
@@ -177,6 +180,18 @@ void DocumentToolBar::utilityButtonClick(int index)
     }
     default: break;
     }
+}
+
+void DocumentToolBar::ClientConfiguration(const QString& Program)
+{
+    const QString login = QStringLiteral(" /U=") + UserLoginName() + QStringLiteral(" /P=") + UserLoginPassword();
+    const bool started = Program.isEmpty()
+        ? runInFolder(SystemFolder(), SystemFolder() + QLatin1Char('\\') + ClientConfigurationProgram + login, QStringLiteral("System folder"))
+        : start(Program + login);
+    // A program that did not start has said so already.
+    if (started)
+        Services::messages().information(QStringLiteral("Client Configuration"),
+            QStringLiteral("ท่านต้องเชื่อมคำสั่งในแต่ระบบจาก Application Center ของแต่ละเครื่อง"));
 }
 
 } // namespace qd8

@@ -16,6 +16,8 @@ class DocumentToolBar : public ToolLauncher {
 public:
     static constexpr int CommandButtons = 15;
     static constexpr int UtilityButtons = 5;
+    // The client configuration program started when the host names none, in SystemFolder.
+    static const QString ClientConfigurationProgram;  // "QD8ClientConfig.exe"
 
     explicit DocumentToolBar(QWidget* parent = nullptr);
     ~DocumentToolBar() override;
@@ -39,6 +41,11 @@ public Q_SLOTS:
     void toggleButtons();
     void commandButtonClick(int index);
     void utilityButtonClick(int index);
+    // Starts the client configuration program with the session's login appended
+    // (" /U=" + UserLoginName + " /P=" + UserLoginPassword), then reminds the user that
+    // each machine links its commands from the Application Center. Program: the
+    // program's command line; "" starts SystemFolder\QD8ClientConfig.exe.
+    void ClientConfiguration(const QString& Program = QString());
 
 private:
     void fill(CommandSet set);

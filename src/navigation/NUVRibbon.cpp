@@ -83,7 +83,7 @@ const QList<FixedTab>& fixedTabs()
                 {"REMOVE", "Release", QStyle::SP_TrashIcon}}},
             {"FOLDER", "Folder", {
                 {"IMAGEFOLDER", "Image", QStyle::SP_DirOpenIcon},
-                {"SPECFOLDER", "Hard\ncopy", QStyle::SP_DirIcon}}},
+                {"SPECFOLDER", "Hard copy", QStyle::SP_DirIcon}}},
             {"PERSONNEL", "Pesonnel", {
                 {"HRLEAVE", "Leave\nRequisition", QStyle::SP_DialogCancelButton},
                 {"HROT", "Overtime", QStyle::SP_BrowserReload},
@@ -222,10 +222,11 @@ void NUVRibbon::Refresh()
         } catch (const DbError&) {
         }
     }
+    // The shortcut bar's order: the user's own commands, the module's, then the main list.
     LookupScope scope;
-    DOMAINLIST();
-    DOMODULELIST();
     DOUSERLIST();
+    DOMODULELIST();
+    DOMAINLIST();
 }
 
 void NUVRibbon::DOMAINLIST()

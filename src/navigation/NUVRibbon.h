@@ -36,7 +36,7 @@ public:
 
 public Q_SLOTS:
     // Derives the command-centre connection, applies the user's stored theme and loads
-    // the three command sets.
+    // the three command sets as the shortcut bar does: user, module, main.
     void Refresh() override;
     void DOMAINLIST();
     void DOMODULELIST();

@@ -20,19 +20,21 @@ QStringList ToolLauncher::propertyKeysRead() const
     return {QStringLiteral("TodayPage"), QStringLiteral("AppPath"), QStringLiteral("SystemFolder")};
 }
 
-void ToolLauncher::runInFolder(const QString& folder, const QString& commandLine, const QString& folderName)
+bool ToolLauncher::runInFolder(const QString& folder, const QString& commandLine, const QString& folderName)
 {
     if (folder.isEmpty()) {
         Services::messages().information(QStringLiteral("System Configuration"), QStringLiteral("ไม่ได้กำหนด ") + folderName);
-        return;
+        return false;
     }
-    start(commandLine);
+    return start(commandLine);
 }
 
-void ToolLauncher::start(const QString& commandLine)
+bool ToolLauncher::start(const QString& commandLine)
 {
-    if (!Services::shell().run(commandLine, 0))
-        Services::messages().information(QStringLiteral("System Configuration"), QStringLiteral("Cannot start ") + commandLine);
+    if (Services::shell().run(commandLine, 0))
+        return true;
+    Services::messages().information(QStringLiteral("System Configuration"), QStringLiteral("Cannot start ") + commandLine);
+    return false;
 }
 
 void ToolLauncher::runHelp()

@@ -31,11 +31,12 @@ public:
 protected:
     QStringList propertyKeysRead() const override;
     // Runs a program through the host's program runner; one that cannot start is named.
-    void start(const QString& commandLine);
+    // True when it started.
+    bool start(const QString& commandLine);
+    // Runs the program, or says that the folder it needs is not set. True when it started.
+    bool runInFolder(const QString& folder, const QString& commandLine, const QString& folderName);
 
 private:
-    // Runs the program, or says that the folder it needs is not set.
-    void runInFolder(const QString& folder, const QString& commandLine, const QString& folderName);
     QString m_todayPage;
 };
 

@@ -60,14 +60,28 @@ class SchemaTest : public EngineTest {};
 
 TEST_P(SchemaTest, CreatesAndLoadsEveryDatabaseAndTheCheckFindsNothingMissing)
 {
+    QTemporaryDir folder;
+    std::vector<std::unique_ptr<ScratchDatabase>> dbs;
     for (DatabaseRole role : Roles) {
-        ScratchDatabase db(engine(), Schema::fileName(role));
-        db.createSchema(role);
-        EXPECT_GT(Schema::loadSample(db.connectionString(), role), 0) << Schema::roleName(role).toStdString();
-        const auto problems = Schema::check(db.connectionString(), role);
-        for (const auto& p : problems)
-            ADD_FAILURE() << p.table.toStdString() << " " << p.missingColumns.join(',').toStdString();
+        dbs.push_back(std::make_unique<ScratchDatabase>(engine(), Schema::fileName(role), &folder));
+        dbs.back()->createSchema(role);
+        EXPECT_GT(Schema::loadSample(dbs.back()->connectionString(), role), 0) << Schema::roleName(role).toStdString();
     }
+    const QString app = dbs[0]->connectionString(), data = dbs[2]->connectionString();
+    const auto missing = [](const QString& cs, DatabaseRole role) {
+        QStringList names;
+        for (const auto& p : Schema::check(cs, role))
+            names << p.table + QLatin1Char(' ') + p.missingColumns.join(',');
+        return names;
+    };
+    // A PostgreSQL session database lacks the catalogue until it is linked; SQLite attaches
+    // it per connection.
+    const bool postgres = engine() == Engine::PostgreSQL;
+    EXPECT_EQ(missing(data, DatabaseRole::CompanyData), postgres ? QStringList{"QD8TCommand "} : QStringList{});
+    EXPECT_EQ(Schema::linkCatalogue(data, app), postgres);
+    EXPECT_EQ(Schema::linkCatalogue(data, app), postgres) << "linking again replaces the link";
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(missing(dbs[i]->connectionString(), Roles[i]), QStringList{}) << Schema::roleName(Roles[i]).toStdString();
 }
 
 TEST_P(SchemaTest, CheckReportsMissingTablesAndColumns)
@@ -349,8 +363,20 @@ TEST(Admin, InitCreatesThePostgresDatabasesWhenMissing)
     }
     QString output;
     EXPECT_EQ(runAdmin(arguments, &output), 0) << output.toStdString();
-    EXPECT_EQ(runAdmin({QStringLiteral("check"), QStringLiteral("Driver=PostgreSQL;Database=") + names[0]}, &output), 0)
-        << output.toStdString();
+    EXPECT_EQ(runAdmin(arguments + QStringList{QStringLiteral("--force")}, &output), 0) << output.toStdString();
+    for (const QString& name : names)
+        EXPECT_EQ(runAdmin({QStringLiteral("check"), QStringLiteral("Driver=PostgreSQL;Database=") + name}, &output), 0)
+            << output.toStdString();
+    // The session database reaches the catalogue's commands, read-only.
+    {
+        Connection session;
+        session.open(QStringLiteral("Driver=PostgreSQL;Database=") + names[2]);
+        Recordset rs;
+        rs.open(Sql("SELECT COUNT(*) FROM QD8TUserCommand JOIN QD8TCommand ON TUsCTCmdID = TCmdID"), session);
+        EXPECT_GT(rs.field(0).toInt(), 0);
+        EXPECT_THROW(session.execute(Sql("DELETE FROM QD8TCommand")), DbError);
+    }
+    ConnectionPool::instance().clear(QStringLiteral("Driver=PostgreSQL;Database=") + names[2]);
     Connection server;
     server.open(ScratchDatabase::postgresAdminConnectionString());
     for (const QString& name : names)

@@ -78,7 +78,7 @@ protected:
     // The session as the host hands it over (properties, then Refresh by the caller).
     void attach(HostedControl& control, qint32 user, const QString& group = QStringLiteral("TST")) const
     {
-        control.setConnectionString(dataConnectionString());
+        control.setConnectionString(sessionConnectionString());
         control.setAppConnectionString(appConnectionString());
         control.setUserID(user);
         control.setIconPath(icons.path());

@@ -125,6 +125,37 @@ TEST(DocumentToolBarTools, FolderButtonsRunTheirProgramOrSayWhichFolderIsMissing
     }
 }
 
+TEST(DocumentToolBarTools, ClientConfigurationStartsWithTheLoginAndRemindsToLinkTheCommands)
+{
+    const char* reminder = "Client Configuration: ท่านต้องเชื่อมคำสั่งในแต่ระบบจาก Application Center ของแต่ละเครื่อง";
+    const char* command = "D:\\QD8\\QD8ClientConfig.exe /U=somchai /P=s3cret";
+    const struct {
+        const char* program;  // "": the default in SystemFolder
+        const char* systemFolder;
+        bool starts;
+        QString run, shown;
+    } cases[] = {
+        {"C:\\Setup.exe", "", true, "C:\\Setup.exe /U=somchai /P=s3cret", reminder},
+        {"", "D:\\QD8", true, command, reminder},
+        {"", "", true, "", "System Configuration: ไม่ได้กำหนด System folder"},
+        {"", "D:\\QD8", false, command, QStringLiteral("System Configuration: Cannot start ") + command},
+    };
+    for (const auto& c : cases) {
+        installScriptedServices();
+        scriptedShell().starts = c.starts;
+        DocumentToolBar bar;
+        bar.setUserLoginName("somchai");
+        bar.setUserLoginPassword("s3cret");
+        bar.setSystemFolder(c.systemFolder);
+        // Late bound, as a host form calls it.
+        ASSERT_TRUE(*c.program ? QMetaObject::invokeMethod(&bar, "ClientConfiguration", Q_ARG(QString, c.program))
+                               : QMetaObject::invokeMethod(&bar, "ClientConfiguration"));
+        EXPECT_EQ(scriptedShell().commands.join('|'), c.run.isEmpty() ? QString() : "run:" + c.run + ":0") << c.program;
+        ASSERT_EQ(scriptedMessages().shown.size(), 1) << c.program;
+        EXPECT_EQ(scriptedMessages().shown[0].title + ": " + scriptedMessages().shown[0].text, c.shown) << c.program;
+    }
+}
+
 TEST(DocumentToolBarTools, TheOemShortNameComesFromTheThemeFileOrIsNUV)
 {
     QTemporaryDir app;

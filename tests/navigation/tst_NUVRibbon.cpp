@@ -1,14 +1,15 @@
 #include "navigation/NavigationTest.h"
 
 #include "database/SessionFunctions.h"
-#include "foundation/Connection.h"
-#include "foundation/Recordset.h"
+#include "foundation/SqlTrace.h"
 #include "navigation/NUVRibbon.h"
 #include "navigation/OemSettings.h"
 #include "widgets/FormRegistry.h"
+#include "widgets/PickListModel.h"
 #include "widgets/Ribbon.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
@@ -49,9 +50,17 @@ TEST_P(NUVRibbonTest, CatalogueTabsHoldTheThreeCommandSets)
     EXPECT_EQ(ribbon.ribbon()->button("TSTB")->text(), "บี && ซี");
     EXPECT_EQ(ribbon.ribbon()->button("TSTB")->toolTip(), "บี && ซี");
 
-    // A refresh replaces the buttons instead of adding to them.
+    // A refresh replaces the buttons instead of adding to them, and loads the sets in the
+    // shortcut bar's order: the user's, the module's, the main list.
+    SqlTrace::Recorder trace;
     ribbon.Refresh();
     EXPECT_EQ(buttons("MODULE", "MAINCOMMAND").size(), 4);
+    QStringList lists;
+    for (const QString& statement : trace.composed())
+        for (const char* from : {"QD8TUserCommand WHERE", "QD8TModuleCommand WHERE", "QD8TCommand WHERE TCmdShowListBar"})
+            if (statement.startsWith(QStringLiteral("SELECT * FROM ") + QLatin1String(from)))
+                lists << QString::fromLatin1(from).section(' ', 0, 0);
+    EXPECT_EQ(lists, (QStringList{"QD8TUserCommand", "QD8TModuleCommand", "QD8TCommand"}));
     ribbon.ribbon()->button("TSTA")->click();
     EXPECT_EQ(launched, QStringList{"TSTA"});
 }
@@ -70,7 +79,7 @@ TEST_P(NUVRibbonTest, APickedThemeIsStoredAppliedAndAnnounced)
     EXPECT_EQ(changes[0].second, ribbon.ribbon());
     EXPECT_EQ(ribbon.ribbon()->theme(), 2);
     EXPECT_EQ(ribbon.BackColor(), Ribbon::themes()[2].background);
-    EXPECT_EQ(DbSessionFunctions::userSettingText(1, "RibbonTheme", dataConnectionString()), "2");
+    EXPECT_EQ(DbSessionFunctions::userSettingText(1, "RibbonTheme", sessionConnectionString()), "2");
 
     NUVRibbon next;
     attach(next, 1);
@@ -95,20 +104,21 @@ TEST_P(NUVRibbonTest, RemovingPicksFromTheTemplateUsersListAndDeletesForTheSessi
     EXPECT_EQ(request.source,
         "(SELECT QD8TUserCommand.*, QD8TCommand.* FROM QD8TUserCommand LEFT JOIN QD8TCommand ON QD8TUserCommand.TUsCTCmdID = "
         "QD8TCommand.TCmdID WHERE (((QD8TUserCommand.TUsCTUsrID)=0)))  A ORDER BY TCmdName");
-    EXPECT_EQ(request.connectionString, dataConnectionString());
+    EXPECT_EQ(request.connectionString, sessionConnectionString());
 
-    // On SQLite the session connection reaches the catalogue it joins by attaching it.
-    if (engine() == Engine::SQLite) {
-        Connection session;
-        session.open(dataConnectionString() + ";Attach=" + appConnectionString().section('=', -1));
-        Recordset rs;
-        rs.open(Sql("SELECT ") + request.fieldList + " FROM " + request.source, session);
-        QStringList names;
-        for (; !rs.eof(); rs.moveNext())
-            names << rs.text("TCmdName");
-        EXPECT_FALSE(names.isEmpty());
-        EXPECT_FALSE(names.contains("บี && ซี"));  // user 1's own commands are not offered
+    // The list as the pick list shows it: the session connection reaches the catalogue it
+    // joins on both engines, so every row of user 0 comes with its command's name.
+    PickListModel list;
+    list.load(request);
+    list.fetchAll();
+    QStringList ids, names;
+    for (int row = 0; row < list.rowCount(); ++row) {
+        ids << list.keyAt(row);
+        names << list.data(list.index(row, 1)).toString();
     }
+    std::sort(ids.begin(), ids.end());
+    EXPECT_EQ(ids, (QStringList{"102", "201", "401", "602", "701", "801"}));
+    EXPECT_FALSE(names.contains(QString())) << names.join(',').toStdString();
 
     scriptedPicker().answers = {QStringLiteral("9010")};
     ribbon.mnuAdd_click();
@@ -142,7 +152,7 @@ TEST(NUVRibbonContent, FixedTabsKeepTheirGroupsKeysAndCaptions)
     };
     for (const auto& g : groups)
         EXPECT_EQ(r->buttonKeys(g.tab, g.group), g.keys) << g.group;
-    EXPECT_EQ(r->button("SPECFOLDER")->text(), "Hard\ncopy");
+    EXPECT_EQ(r->button("SPECFOLDER")->text(), "Hard copy");
     EXPECT_EQ(r->button("REMOTE")->text(), "MSN &&\nRemote");
 }
 

@@ -29,6 +29,14 @@ void SampleCompanyTest::SetUp()
     app = make(DatabaseRole::Application);
     centre = make(DatabaseRole::CommandCentre);
     data = make(DatabaseRole::CompanyData);
+    Schema::linkCatalogue(dataConnectionString(), appConnectionString());
+}
+
+QString SampleCompanyTest::sessionConnectionString() const
+{
+    if (engine() != Engine::SQLite)
+        return dataConnectionString();
+    return dataConnectionString() + QStringLiteral(";Attach=") + ConnectionString::parse(appConnectionString()).sqliteFile();
 }
 
 void SampleCompanyTest::TearDown()

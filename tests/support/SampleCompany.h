@@ -11,7 +11,8 @@ namespace qd8::test {
 int runAdmin(const QStringList& arguments, QString* output = nullptr);
 
 // The three databases of the sample company (application, command centre, company data),
-// on the engine under test, created fresh for each test.
+// on the engine under test, created fresh for each test, with the catalogue linked into the
+// company data database as qd8-admin links it.
 class SampleCompanyTest : public EngineTest {
 protected:
     void SetUp() override;
@@ -20,6 +21,9 @@ protected:
     QString appConnectionString() const { return app->connectionString(); }
     QString centreConnectionString() const { return centre->connectionString(); }
     QString dataConnectionString() const { return data->connectionString(); }
+    // The company data database as a host hands it to the launchers: it reaches the
+    // catalogue (on SQLite by attaching QD8Command.dat).
+    QString sessionConnectionString() const;
     void runOnData(const QStringList& statements) const { data->run(statements); }
     void runOnApp(const QStringList& statements) const { app->run(statements); }
 

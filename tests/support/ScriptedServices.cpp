@@ -39,7 +39,7 @@ QString ScriptedPicker::pick(const PickRequest& request)
 bool ScriptedShell::run(const QString& commandLine, int windowStyle)
 {
     commands << QStringLiteral("run:%1:%2").arg(commandLine).arg(windowStyle);
-    return true;
+    return starts;
 }
 
 bool ScriptedShell::openUrl(const QString& url)

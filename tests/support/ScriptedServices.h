@@ -46,7 +46,8 @@ public:
     bool openUrl(const QString& url) override;
 
     QStringList commands;  // "run:<command line>:<style>" or "url:<url>"
-    void reset() { commands.clear(); }
+    bool starts = true;    // false: every program fails to start
+    void reset() { commands.clear(); starts = true; }
 };
 
 ScriptedMessages& scriptedMessages();
