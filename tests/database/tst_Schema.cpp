@@ -240,8 +240,9 @@ TEST_P(SampleSchemaTest, EveryQuickFormNamesTablesColumnsFormsAndCommandsThatExi
         EXPECT_TRUE(pick.isEmpty() || forms.contains(pick)) << "pick form " << pick.toStdString();
         const QString print = get("TQFmPrintTCmdAlias");
         EXPECT_TRUE(print.isEmpty() || commands.contains(print)) << "print command " << print.toStdString();
-        if (get("TQFmDeleteAuto") == QLatin1String("1"))
+        if (get("TQFmDeleteAuto") == QLatin1String("1")) {
             EXPECT_EQ(failure(data, Sql("SELECT ") + get("TQFmDeleteField") + " FROM " + get("TQFmDeleteTable") + " WHERE 1=0"), QString());
+        }
     }
 }
 

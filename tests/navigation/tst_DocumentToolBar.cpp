@@ -83,8 +83,9 @@ TEST_P(DocumentToolBarTest, TheToggleCyclesUserModuleMainAndBack)
         EXPECT_EQ(bar.commandButton(0)->toolTip(), step.toolTip);
         EXPECT_EQ(positions(), step.shown);
         // Captions lose their accelerator marks and keep "&&".
-        if (step.mode == 0)
+        if (step.mode == 0) {
             EXPECT_EQ(bar.commandButton(2)->text(), "บี && ซี");
+        }
         bar.commandButton(0)->click();
     }
 }
