@@ -3,6 +3,7 @@
 #include "foundation/Connection.h"
 #include "foundation/DbError.h"
 #include "foundation/Recordset.h"
+#include "foundation/TransactionGuard.h"
 
 namespace qd8 {
 
@@ -309,10 +310,9 @@ DocumentGenerator::Outcome DocumentGenerator::generate(const QString& listAlias,
         throw DbError(DbError::Kind::Usage, QStringLiteral("The number of documents must be above 0"));
     Connection connection;
     connection.open(m_connectionString);
-    connection.beginTrans();
+    TransactionGuard transaction(connection);
     const qint64 first = lastNumber(connection, *list) + 1;
     if (first + rows - 1 > LargestNumber) {
-        connection.rollbackTrans();
         throw DbError(DbError::Kind::Usage, QStringLiteral("%1 documents after %2 would need more than %3 digits")
                                                 .arg(rows)
                                                 .arg(documentNo(*list, first - 1))
@@ -321,7 +321,7 @@ DocumentGenerator::Outcome DocumentGenerator::generate(const QString& listAlias,
     const QList<Column> columns = commonColumns(*list, readPools(connection), connection.engine(),
         m_today.addDays(-(SpanDays - 1)), rows, first);
     const qint64 written = connection.execute(insertStatement(*list, columns, connection.engine(), rows));
-    connection.commitTrans();
+    transaction.commit();
     return {QLatin1String(list->table), written, documentNo(*list, first), documentNo(*list, first + rows - 1)};
 }
 

@@ -4,6 +4,7 @@
 #include "foundation/Connection.h"
 #include "foundation/DbError.h"
 #include "foundation/Recordset.h"
+#include "foundation/TransactionGuard.h"
 #include "foundation/Values.h"
 
 #include <QDateTime>
@@ -132,13 +133,12 @@ qint64 DbDataObject::takeNumber(const QString& key, const QString& subKey, Conne
     for (int attempt = 1;; ++attempt) {
         Connection connection;
         connection.open(m_connectionString);
-        connection.beginTrans();
+        TransactionGuard transaction(connection);
         try {
             const qint64 number = takeNumberOn(connection, key, subKey);
-            connection.commitTrans();
+            transaction.commit();
             return number;
         } catch (const DbError&) {
-            connection.rollbackTrans();
             if (attempt == MaxNumberAttempts)
                 throw;
         }

@@ -9,10 +9,11 @@ namespace qd8 {
 
 QString ListService::PickFromList(const QString& title, const QString& keyField, const QString& fieldList,
     const QString& captionList, const QString& widthList, const QString& typeList, const QString& source,
-    const QString& connectionString, int option1, int option2, int option3, int option4, int option5, int dialogWidth)
+    const QString& connectionString, int option1, int option2, int option3, int option4, int option5, int dialogWidth,
+    const QStringList& labelLists)
 {
     return Services::picker().pick({title, keyField, fieldList, captionList, widthList, typeList, source, connectionString,
-        option1, option2, option3, option4, option5, dialogWidth});
+        option1, option2, option3, option4, option5, dialogWidth, labelLists});
 }
 
 QVariant ListService::LookupValue(const QVariant& defaultValue, int, int, const QString& conditionField,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QObject>
 #include <QString>
 #include <QStringList>
 
@@ -11,11 +12,21 @@ namespace qd8 {
 // "UnPass", "Copy", "Edit", "Check", "Pass", "Print": not 0 means allowed). The same
 // object, handed to a control by SetPermission, also answers named rights
 // ("ICINVENTORYCOST") and builds the employee-type condition of the user.
-class PermissionObject {
+//
+// A QObject, so that a host binding late hands it through the meta-object
+// (Q_ARG(qd8::PermissionObject*, pm)) and a control that keeps it sees when the host
+// destroys it. Subclasses need no Q_OBJECT of their own.
+class PermissionObject : public QObject {
+    Q_OBJECT
+
 public:
     static const QStringList ToolBarKeys;  // in the order SetPermission reads them
 
-    virtual ~PermissionObject() = default;
+    explicit PermissionObject(QObject* parent = nullptr)
+        : QObject(parent)
+    {
+    }
+    ~PermissionObject() override = default;
     virtual void LoadCommandRights(qint32 userId, const QString& alias, const QString& connectionString,
         const QString& appConnectionString) = 0;
     // 0 for a key the user has no right for (or that was never loaded).

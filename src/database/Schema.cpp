@@ -5,6 +5,7 @@
 #include "foundation/ConnectionPool.h"
 #include "foundation/DbError.h"
 #include "foundation/Recordset.h"
+#include "foundation/TransactionGuard.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -247,23 +248,23 @@ void Schema::create(const QString& connectionString, DatabaseRole role)
 {
     Connection connection;
     connection.open(connectionString);
-    connection.beginTrans();
+    TransactionGuard transaction(connection);
     if (connection.engine() == Engine::PostgreSQL)
         connection.execute(Sql("CREATE COLLATION IF NOT EXISTS thai (provider = icu, locale = 'th-TH')"));
     for (const QString& statement : statements(ddl(role)))
         connection.execute(Sql(forEngine(statement, connection.engine())));
-    connection.commitTrans();
+    transaction.commit();
 }
 
 qint64 Schema::loadSample(const QString& connectionString, DatabaseRole role)
 {
     Connection connection;
     connection.open(connectionString);
-    connection.beginTrans();
+    TransactionGuard transaction(connection);
     qint64 rows = 0;
     for (const QString& statement : statements(sample(role)))
         rows += connection.execute(Sql(forEngine(statement, connection.engine())));
-    connection.commitTrans();
+    transaction.commit();
     return rows;
 }
 

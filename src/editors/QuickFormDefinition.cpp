@@ -1,32 +1,10 @@
 #include "editors/QuickFormDefinition.h"
 
-#include "foundation/Connection.h"
+#include "database/QuickFormMetadata.h"
 #include "foundation/Language.h"
-#include "foundation/Recordset.h"
 #include "foundation/Values.h"
 
 namespace qd8 {
-
-namespace {
-
-bool flag(const Recordset& rs, const char* column)
-{
-    return toNumber(rs.field(QLatin1String(column))) == 1;
-}
-
-// A flag left Null takes the column's usual meaning.
-bool flagOr(const Recordset& rs, const char* column, bool whenNull)
-{
-    const QVariant value = rs.field(QLatin1String(column));
-    return value.isNull() ? whenNull : toNumber(value) == 1;
-}
-
-int number(const Recordset& rs, const char* column)
-{
-    return int(toNumber(rs.field(QLatin1String(column))));
-}
-
-} // namespace
 
 QList<int> QuickFormDefinition::keyColumns() const
 {
@@ -39,59 +17,59 @@ QList<int> QuickFormDefinition::keyColumns() const
 
 QuickFormDefinition QuickFormDefinition::load(Connection& app, const QString& alias, int languageId)
 {
-    const QString suffix = nameSuffix(languageId);
-    QuickFormDefinition form;
-    Recordset rs;
-    rs.open(Sql("SELECT * FROM QD8TQuickForm WHERE TQFmAlias=") + quoted(alias) + " AND TQFMFlag1=1", app);
-    if (rs.eof())
-        return form;
-    form.alias = alias;
-    form.caption = rs.text(QStringLiteral("TQFmCaption") + suffix);
-    form.where = rs.text(QStringLiteral("TQFmWhere"));
-    form.order = rs.text(QStringLiteral("TQFmOrder"));
-    form.masterReportNo = number(rs, "TQFMMasterReportNo");
-    form.keyPrefix = rs.text(QStringLiteral("TQFmKeyIDEN"));
-    form.deleteAuto = flag(rs, "TQFmDeleteAuto");
-    form.deleteField = rs.text(QStringLiteral("TQFmDeleteField"));
-    form.deleteTable = rs.text(QStringLiteral("TQFmDeleteTable"));
-    form.deleteMessage = rs.text(QStringLiteral("TQFmDeleteMessage"));
-    form.runQuickForm = rs.text(QStringLiteral("TQFmRunQuickForm"));
-    form.fieldFilter = rs.text(QStringLiteral("TQFmFieldFilter"));
-    form.fieldReturn = rs.text(QStringLiteral("TQFmFieldReturn"));
-    form.printCommand = rs.text(QStringLiteral("TQFmPrintTCmdAlias"));
-    form.canAdd = flagOr(rs, "TQFmCanAdd", true);
-    form.canDelete = flagOr(rs, "TQFmCanDelete", true);
-    form.readOnly = flagOr(rs, "TQFmReadOnly", false);
-    form.view = rs.text(QStringLiteral("TQFmView"));
-    form.table = rs.text(QStringLiteral("TQFmTable"));
+    return fromMetadata(QuickFormMetadata::read(app, alias, QuickFormMetadata::Reading::Editor), languageId);
+}
 
-    Recordset fields;
-    fields.open(Sql("SELECT * FROM QD8TQuickField WHERE TQFFTQFmAlias=") + quoted(alias) + " AND TQFFFlag1=1 ORDER BY TQFFSort", app);
+QuickFormDefinition QuickFormDefinition::fromMetadata(const QuickFormMetadata& metadata, int languageId)
+{
+    QuickFormDefinition form;
+    if (!metadata.found)
+        return form;
+    form.alias = metadata.alias;
+    form.caption = metadata.captionIn(languageId);
+    form.where = metadata.where;
+    form.order = metadata.order;
+    form.masterReportNo = metadata.masterReportNo;
+    form.keyPrefix = metadata.keyIden;
+    form.deleteAuto = metadata.deleteAuto;
+    form.deleteField = metadata.deleteField;
+    form.deleteTable = metadata.deleteTable;
+    form.deleteMessage = metadata.deleteMessage;
+    form.runQuickForm = metadata.runQuickForm;
+    form.fieldFilter = metadata.fieldFilter;
+    form.fieldReturn = metadata.fieldReturn;
+    form.printCommand = metadata.printCommand;
+    form.canAdd = metadata.canAdd;
+    form.canDelete = metadata.canDelete;
+    form.readOnly = metadata.readOnly;
+    form.view = metadata.view;
+    form.table = metadata.table;
+
     QStringList keys;
-    for (; !fields.eof(); fields.moveNext()) {
+    for (const QuickFieldMetadata& m : metadata.fields) {
         QuickFieldDefinition f;
-        f.fieldName = fields.text(QStringLiteral("TQFFFieldName"));
-        f.runQuickForm = fields.text(QStringLiteral("TQFFRunQuickForm"));
-        f.caption = fields.text(QStringLiteral("TQFFCaption") + suffix) + (f.runQuickForm.isEmpty() ? QString() : QStringLiteral(" (F2)"));
-        f.type = fields.text(QStringLiteral("TQFFFieldType")).trimmed().toUpper();
-        f.primaryKey = flag(fields, "TQFFPrimaryKey");
-        f.decimals = number(fields, "TQFFDecimal");
-        f.minCon = flag(fields, "TQFFMinCon");
-        f.minValue = toNumber(fields.field(QStringLiteral("TQFFMinValue")));
-        f.maxCon = flag(fields, "TQFFMaxCon");
-        f.maxValue = toNumber(fields.field(QStringLiteral("TQFFMaxValue")));
-        f.maxLength = number(fields, "TQFFMaxlength");
-        f.canDuplicate = flagOr(fields, "TQFFCanDuplicate", true);
-        f.canBlank = fields.text(QStringLiteral("TQFFCanBlank")) == QLatin1String("1");
-        f.canEdit = flagOr(fields, "TQFFCanEdit", true);
-        f.canDeleteAlias = fields.text(QStringLiteral("TQFFCanDeleteAlias"));
-        const QVariant width = fields.field(QStringLiteral("TQFFWidth"));
-        f.width = width.isNull() ? 1440 : int(toNumber(width));
-        f.titleAlign = fields.field(QStringLiteral("TQFFTitleAlign")).isNull() ? -1 : number(fields, "TQFFTitleAlign");
-        f.rowAlign = fields.field(QStringLiteral("TQFFRowAlign")).isNull() ? -1 : number(fields, "TQFFRowAlign");
-        f.labelList = fields.text(QStringLiteral("TQFFLabelList"));
-        f.defaultValue = fields.text(QStringLiteral("TQFFDefaultValue"));
-        f.defaultText = fields.text(QStringLiteral("TQFFDefaultText"));
+        f.fieldName = m.fieldName;
+        f.runQuickForm = m.runQuickForm;
+        // A column with a pick form says so: F2 opens it.
+        f.caption = m.captionIn(languageId) + (f.runQuickForm.isEmpty() ? QString() : QStringLiteral(" (F2)"));
+        f.type = m.type;
+        f.primaryKey = m.primaryKey;
+        f.decimals = m.decimals;
+        f.minCon = m.minCon;
+        f.minValue = m.minValue;
+        f.maxCon = m.maxCon;
+        f.maxValue = m.maxValue;
+        f.maxLength = m.maxLength;
+        f.canDuplicate = m.canDuplicate;
+        f.canBlank = m.canBlank;
+        f.canEdit = m.canEdit;
+        f.canDeleteAlias = m.canDeleteAlias;
+        f.width = m.width.isNull() ? 1440 : int(toNumber(m.width));
+        f.titleAlign = m.titleAlign;
+        f.rowAlign = m.rowAlign;
+        f.labelList = m.labelList;
+        f.defaultValue = m.defaultValue;
+        f.defaultText = m.defaultText;
         form.fields << f;
         if (f.primaryKey) {
             form.keyColumn = int(form.fields.size());

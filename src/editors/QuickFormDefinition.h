@@ -6,6 +6,7 @@
 namespace qd8 {
 
 class Connection;
+struct QuickFormMetadata;
 
 // One column of a quick form (QD8TQuickField).
 struct QuickFieldDefinition {
@@ -64,10 +65,12 @@ struct QuickFormDefinition {
     // The key columns (grid numbers), in order.
     QList<int> keyColumns() const;
 
-    // Reads an active form and its active fields from the application database; an
-    // unknown or inactive alias gives a definition that is not loaded. languageId picks
-    // the Thai or English captions.
+    // Reads an active form and its active fields from the application database
+    // (QuickFormMetadata, Reading::Editor); an unknown or inactive alias gives a definition
+    // that is not loaded. languageId picks the Thai or English captions.
     static QuickFormDefinition load(Connection& app, const QString& alias, int languageId);
+    // The definition of metadata already read (the fields as the reading selected them).
+    static QuickFormDefinition fromMetadata(const QuickFormMetadata& metadata, int languageId);
 };
 
 } // namespace qd8

@@ -2,6 +2,8 @@
 
 #include "database/ListService.h"
 #include "database/PermissionObject.h"
+#include "database/QuickFormMetadata.h"
+#include "database/QuickFormPick.h"
 #include "database/SessionServices.h"
 #include "foundation/Connection.h"
 #include "foundation/DbError.h"
@@ -169,7 +171,7 @@ void QuickGrid::cmdWhereShow(const QString& KeyType)
     cmdWhereShow2(KeyType, false);
 }
 
-QString QuickGrid::formTitle(Connection& app, Connection& data, const QString& alias) const
+QString QuickGrid::formTitle(Connection& data, const QString& alias) const
 {
     const auto column = productLineTitles().constFind(alias.toUpper());
     if (column != productLineTitles().constEnd() && !m_form.fieldFilter.isEmpty()) {
@@ -178,9 +180,8 @@ QString QuickGrid::formTitle(Connection& app, Connection& data, const QString& a
         if (!rs.eof() && !rs.text(*column).isEmpty())
             return rs.text(*column);
     }
-    Recordset rs;
-    rs.open(Sql("SELECT TQFmCaption") + nameSuffix() + " FROM QD8TQuickForm WHERE TQFmAlias=" + quoted(alias), app);
-    return rs.eof() ? QString() : qd8::text(rs.field(0));
+    // The form's caption in the session language, as its metadata was read.
+    return m_form.caption;
 }
 
 void QuickGrid::cmdWhereShow2(const QString& KeyType, bool LockAfterShow)
@@ -206,8 +207,8 @@ void QuickGrid::FillData()
 {
     QString alias = m_selector->text().trimmed();
     if (alias.isEmpty()) {
-        // The form to open first; without one, the first form of the group.
-        alias = !m_defaultFormAlias.isEmpty() || m_groupForms.isEmpty() ? m_defaultFormAlias : m_groupForms.first().first;
+        // The form to open first; without one nothing is opened.
+        alias = m_defaultFormAlias.trimmed();
         m_selector->setText(alias);
     }
     m_grid->Clear();
@@ -229,7 +230,7 @@ void QuickGrid::FillData()
             enterMode(QStringLiteral("BLANK"));
             return;
         }
-        m_title->setText(formTitle(app, data, alias));
+        m_title->setText(formTitle(data, alias));
         m_grid->setLanguageID(LanguageID());
         for (const QuickFieldDefinition& f : m_form.fields) {
             GridColumn column = GridColumn::fromDefinition(f.caption, f.width, f.type == QLatin1String("AUTONUMBER") ? QStringLiteral("NUMBER") : f.type,
@@ -403,51 +404,28 @@ QString QuickGrid::SelectQuickForm2(const QString& QuickFormAlias, int HF)
     return SelectQuickForm3(QuickFormAlias, HF, QString());
 }
 
+QString QuickGrid::employeeScope(const QString& alias, int HF) const
+{
+    const QString column = employeeScopeColumn(alias);
+    if (HF < 1 || column.isEmpty())
+        return {};
+    if (PermissionObject* host = permission())
+        return host->employeeScope(column, HF - 1);
+    const auto own = SessionServices::newCommandPermission();
+    own->LoadCommandRights(UserID(), QString(), DataConnectionString(), ConnectionString());
+    return own->employeeScope(column, HF - 1);
+}
+
 QString QuickGrid::SelectQuickForm3(const QString& QuickFormAlias, int HF, const QString& CustomFilter)
 {
     try {
         Connection app;
         app.open(ConnectionString());
-        Recordset form;
-        form.open(Sql("SELECT * FROM QD8TQuickForm WHERE TQFmAlias=") + quoted(QuickFormAlias), app);
-        if (form.eof())
+        const QuickFormMetadata form = QuickFormMetadata::read(app, QuickFormAlias, QuickFormMetadata::Reading::PickQuery);
+        if (!form.found)
             return {};
-        const QString title = form.text(QStringLiteral("TQFmCaption") + nameSuffix());
-        QString keyList = form.text(QStringLiteral("TQFmPKList"));
-        if (keyList.startsWith(QLatin1Char(',')))
-            keyList.remove(0, 1);
-        Recordset fields;
-        fields.open(Sql("SELECT * FROM QD8TQuickField WHERE TQFFTQFmAlias=") + quoted(QuickFormAlias) + " ORDER BY TQFFSort", app);
-        QStringList fieldList, captionList, widthList, typeList;
-        qint64 totalWidth = 0;
-        for (; !fields.eof(); fields.moveNext()) {
-            fieldList << fields.text(QStringLiteral("TQFFFieldName"));
-            captionList << fields.text(QStringLiteral("TQFFCaption") + nameSuffix());
-            const qint64 width = qint64(toNumber(fields.field(QStringLiteral("TQFFWidth"))));
-            widthList << QString::number(width);
-            totalWidth += width;
-            typeList << (fields.text(QStringLiteral("TQFFFieldType")) == QLatin1String("LABELLIST") ? QStringLiteral("13") : QStringLiteral("0"));
-        }
-        const QString formWhere = form.text(QStringLiteral("TQFmWhere"));
-        QString where = formWhere.isEmpty() ? QStringLiteral(" WHERE ") + form.text(QStringLiteral("TQFMKeyIden")) + QStringLiteral("Flag1=1")
-                                            : QStringLiteral(" WHERE ") + formWhere;
-        const QString order = form.text(QStringLiteral("TQFmOrder"));
-        static const QHash<QString, QString> employeeColumns = {{QStringLiteral("QD8TEMPLOYEETYPE"), QStringLiteral("TEmTCode")},
-            {QStringLiteral("QD8TEMPLOYEE"), QStringLiteral("TEmpTEmTCode")}, {QStringLiteral("QD8TEMPSLIPPERIOD"), QStringLiteral("TSAPTEmTCode")}};
-        const QString scopeColumn = employeeColumns.value(QuickFormAlias.toUpper());
-        if (HF >= 1 && !scopeColumn.isEmpty()) {
-            const auto permission = SessionServices::newCommandPermission();
-            permission->LoadCommandRights(UserID(), QString(), DataConnectionString(), ConnectionString());
-            const QString condition = permission->employeeScope(scopeColumn, HF - 1);
-            if (!condition.isEmpty())
-                where = where.isEmpty() ? QStringLiteral(" WHERE ") + condition : where + QStringLiteral(" AND ") + condition;
-        }
-        if (!CustomFilter.isEmpty())
-            where += QLatin1Char(' ') + CustomFilter;
-        const QString source = form.text(QStringLiteral("TQFmView")) + where + (order.isEmpty() ? QString() : QStringLiteral(" ORDER BY ") + order);
-        return SessionServices::listService().PickFromList(title, keyList, fieldList.join(QLatin1Char(',')), captionList.join(QLatin1Char(',')),
-            widthList.join(QLatin1Char(',')), typeList.join(QLatin1Char(',')), source, DataConnectionString(), 0, 0, 0, 1, 0,
-            totalWidth >= 10001 ? 10000 : 0);
+        return SessionServices::listService().PickFromList(
+            quickFormPickQuery(form, LanguageID(), employeeScope(QuickFormAlias, HF), CustomFilter, DataConnectionString()));
     } catch (const DbError& error) {
         Services::messages().critical(QuickFormAlias, error.message());
         return {};

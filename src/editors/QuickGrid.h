@@ -62,7 +62,8 @@ public:
 public Q_SLOTS:
     // Lists the forms of QuickGroup (the selector's choices).
     void Refresh() override;
-    // Loads the selected form (DefaultFormAlias when none is selected) into the grid.
+    // Loads the selected form (DefaultFormAlias when none is selected) into the grid; with
+    // neither it opens nothing (no statement, no message) and stays "BLANK".
     void FillData();
     void setbuttons();
     void cmdWhereShow(const QString& KeyType);
@@ -86,9 +87,14 @@ Q_SIGNALS:
 
 protected:
     QStringList propertyKeysRead() const override;
+    GridEditor* hostedGrid() const override { return m_grid; }
 
 private:
-    QString formTitle(Connection& app, Connection& data, const QString& alias) const;
+    QString formTitle(Connection& data, const QString& alias) const;
+    // The condition limiting an employee table's form to the user's employee types at
+    // level HF - 1, asked of the host's permission object (a database-backed one when
+    // the host handed none); "" when the form is not scoped.
+    QString employeeScope(const QString& alias, int HF) const;
     void loadRows(Connection& data);
     void enterMode(const QString& mode);
     void print();

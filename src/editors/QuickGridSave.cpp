@@ -1,10 +1,12 @@
 // Saving, deleting and printing of the quick form editor.
 #include "editors/QuickGrid.h"
 
+#include "database/QuickFormMetadata.h"
 #include "foundation/Connection.h"
 #include "foundation/DbError.h"
 #include "foundation/Recordset.h"
 #include "foundation/Services.h"
+#include "foundation/TransactionGuard.h"
 #include "foundation/Values.h"
 #include "widgets/GridEditor.h"
 
@@ -55,14 +57,9 @@ bool QuickGrid::save()
         }
         // All rows or none: a failure anywhere leaves the table as it was and the grid as
         // the user left it.
-        data.beginTrans();
-        try {
-            writeRows(data, saved, deleted);
-            data.commitTrans();
-        } catch (...) {
-            data.rollbackTrans();
-            throw;
-        }
+        TransactionGuard transaction(data);
+        writeRows(data, saved, deleted);
+        transaction.commit();
     } catch (const DbError& error) {
         messages.critical(m_form.caption, error.message());
         return false;
@@ -127,10 +124,9 @@ QString QuickGrid::inUseProblem(Connection& data) const
                 continue;
             if (!app.isOpen())
                 app.open(ConnectionString());
-            Recordset other;
-            other.open(Sql("SELECT TQFmTable, TQFmKeyIDEN FROM QD8TQuickForm WHERE TQFmAlias=") + quoted(f.canDeleteAlias), app);
-            if (!other.eof())
-                references.append({col, other.text(QStringLiteral("TQFmTable")), other.text(QStringLiteral("TQFmKeyIDEN")) + f.fieldName});
+            const QuickFormMetadata other = QuickFormMetadata::read(app, f.canDeleteAlias, QuickFormMetadata::Reading::FormOnly);
+            if (other.found)
+                references.append({col, other.table, other.keyIden + f.fieldName});
         }
     };
     for (int row = 1; row <= m_grid->Rows(); ++row) {
@@ -224,16 +220,16 @@ void QuickGrid::print()
     if (m_form.masterReportNo == 1) {
         sql = QStringLiteral("SELECT ") + f[0].fieldName + QStringLiteral(" AS TDivCode, ") + f[1].fieldName + QStringLiteral(" AS TDivName, ")
             + m_form.keyPrefix + QStringLiteral("Flag1 AS TDivFlag1 FROM ") + m_form.table + QStringLiteral(" ORDER BY ") + f[0].fieldName;
-        captions = QStringLiteral("Title;") + m_form.caption + QStringLiteral("#Caption1;") + plainCaption(f[0]) + QStringLiteral("#Caption2;")
-            + plainCaption(f[1]);
+        captions = QStringLiteral("Title;") + m_form.caption + QStringLiteral("#Caption1;") + f[0].caption + QStringLiteral("#Caption2;")
+            + f[1].caption;
     } else {
         if (f.size() < 4)
             return;
         sql = QStringLiteral("SELECT ") + f[0].fieldName + QStringLiteral(" AS TDivCode, ") + f[1].fieldName + QStringLiteral(" AS TDivName, ")
             + f[2].fieldName + QStringLiteral(" AS TDivName2 ,") + m_form.keyPrefix + QStringLiteral("Flag1 AS TDivFlag1 FROM ") + m_form.table
             + QStringLiteral(" ORDER BY ") + f[0].fieldName;
-        captions = QStringLiteral("Title;") + m_form.caption + QStringLiteral("#Caption1;") + plainCaption(f[0]) + QStringLiteral("#Caption2;")
-            + plainCaption(f[1]) + QStringLiteral("#Caption3;") + plainCaption(f[2]);
+        captions = QStringLiteral("Title;") + m_form.caption + QStringLiteral("#Caption1;") + f[0].caption + QStringLiteral("#Caption2;")
+            + f[1].caption + QStringLiteral("#Caption3;") + f[2].caption;
     }
     Q_EMIT PrintAutoClick(sql, m_form.masterReportNo, captions);
 }

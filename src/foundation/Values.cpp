@@ -66,4 +66,9 @@ double toNumber(const QVariant& v)
     return ok ? parsed : 0;
 }
 
+QString normalTypeWord(QStringView word)
+{
+    return word.trimmed().toString().toUpper();
+}
+
 } // namespace qd8

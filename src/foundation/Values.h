@@ -22,4 +22,9 @@ Currency toCurrency(const QVariant& v);
 // Number from any field value, NULL and non-numeric text giving zero (the suite's Val()).
 double toNumber(const QVariant& v);
 
+// A value type word of the metadata ("TEXT", "NUMBER", "LABELLIST"...) as every reader
+// compares it: blanks around dropped, upper case, so " labellist " is "LABELLIST". Every
+// comparison of type words goes through here.
+QString normalTypeWord(QStringView word);
+
 } // namespace qd8

@@ -292,9 +292,9 @@ GridColumn GridColumn::fromDefinition(const QString& caption, int width, const Q
 
 std::optional<GridColumnType> GridColumn::typeFromWord(QStringView word)
 {
-    const QStringView trimmed = word.trimmed();
+    const QString normal = normalTypeWord(word);
     for (const TypeWord& entry : TypeWords) {
-        if (trimmed.compare(QLatin1String(entry.word), Qt::CaseInsensitive) == 0)
+        if (normal == QLatin1String(entry.word))
             return entry.type;
     }
     return std::nullopt;

@@ -11,6 +11,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPointer>
 #include <QProgressBar>
 #include <QScrollBar>
 #include <QTableView>
@@ -96,6 +97,8 @@ public:
     QTimer* messageTimer;
     QProgressBar* progress;
     Validator validator;
+    QPointer<QWidget> parentForm;
+    bool actionSingleControl = false;
     QPersistentModelIndex refused;
     bool refuseAdd = false;
     bool refuseDelete = false;
@@ -393,6 +396,23 @@ void GridEditor::setReadOnly(bool readOnly)
     if (readOnly && focus && d->view->viewport()->isAncestorOf(focus))
         d->view->setFocus();
     d->model->setReadOnly(readOnly);
+}
+
+int GridEditor::SetParentForm(QWidget* PassForm, bool ActionSingleControl)
+{
+    d->parentForm = PassForm;
+    d->actionSingleControl = PassForm && ActionSingleControl;
+    return PassForm ? 1 : 0;
+}
+
+QWidget* GridEditor::parentForm() const
+{
+    return d->parentForm;
+}
+
+bool GridEditor::actionSingleControl() const
+{
+    return d->actionSingleControl;
 }
 
 int GridEditor::LanguageID() const

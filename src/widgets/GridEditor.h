@@ -123,6 +123,13 @@ public:
     Q_INVOKABLE void SetProgress(int Value);
     Q_INVOKABLE void HideProgress();
 
+    // The host form the grid lives on, handed down by its control's SetParentForm, and
+    // whether that form holds only this control. Returns 1 when the grid took a form, 0
+    // when PassForm is null (the grid then has none).
+    Q_INVOKABLE int SetParentForm(QWidget* PassForm, bool ActionSingleControl = false);
+    QWidget* parentForm() const;
+    bool actionSingleControl() const;
+
     void setValidator(Validator validator);
     const GridColumn& column(int col) const;
     GridEditorModel* model() const;

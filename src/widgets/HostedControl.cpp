@@ -6,6 +6,7 @@
 #include "database/PermissionObject.h"
 #include "database/SessionFunctions.h"
 #include "database/SessionServices.h"
+#include "widgets/GridEditor.h"
 
 #include <cmath>
 #include <stdexcept>
@@ -84,6 +85,9 @@ void HostedControl::SetLast2(const QString& FolderPathName, const QString& Contr
 
 void HostedControl::SetPermission(PermissionObject& PM)
 {
+    if (m_heldPermission.get() != &PM)
+        m_heldPermission.reset();
+    m_permission = &PM;
     for (const QString& key : PermissionObject::ToolBarKeys) {
         if (PM.right(key) != 0)
             continue;
@@ -92,10 +96,31 @@ void HostedControl::SetPermission(PermissionObject& PM)
     }
 }
 
-int HostedControl::SetParentForm(QWidget* PassForm, bool)
+void HostedControl::SetPermission(PermissionObject* PM)
+{
+    if (PM) {
+        SetPermission(*PM);
+        return;
+    }
+    m_permission = nullptr;
+    m_heldPermission.reset();
+}
+
+void HostedControl::SetPermission(std::shared_ptr<PermissionObject> PM)
+{
+    if (!PM) {
+        SetPermission(static_cast<PermissionObject*>(nullptr));
+        return;
+    }
+    m_heldPermission = PM;
+    SetPermission(*PM);
+}
+
+int HostedControl::SetParentForm(QWidget* PassForm, bool ActionSingleControl)
 {
     m_parentForm = PassForm;
-    return 0;
+    GridEditor* grid = hostedGrid();
+    return grid ? grid->SetParentForm(PassForm, ActionSingleControl) : 0;
 }
 
 void HostedControl::SetPrintCommand(qint32 DTSID, const QString& AppPath, const QString& UserName, const QString& UserPassword)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "database/PermissionObject.h"
 #include "foundation/PropertyBag.h"
 #include "foundation/SessionContext.h"
 
@@ -13,7 +14,7 @@ namespace qd8 {
 class AppObject;
 class ClientObject;
 class DataObject;
-class PermissionObject;
+class GridEditor;
 
 // What the host hands a control for printing: the report set and who prints it.
 struct PrintCommand {
@@ -98,10 +99,24 @@ public:
         const QString& DataConnectionString, const QString& AppConnectionString);
     // Disables the tool-bar button of every right that is 0, reading "Add", "Delete",
     // "UnPass", "Copy", "Edit", "Check", "Pass", "Print" in that order; never enables one.
+    // The control keeps the object for its later questions (the quick form editor's
+    // employee scope) while the object lives: permission() is this object until the host
+    // destroys it or hands over another.
     virtual void SetPermission(PermissionObject& PM);
-    // Hands the host form to the control's editing grid; returns the grid's answer
-    // (0 for a control without one).
-    virtual int SetParentForm(QWidget* PassForm, bool ActionSingleControl = false);
+    // The same for a host that binds late, through the meta-object:
+    //     QMetaObject::invokeMethod(control, "SetPermission", Q_ARG(qd8::PermissionObject*, pm));
+    // nullptr forgets the object kept (the buttons stay as they are).
+    Q_INVOKABLE void SetPermission(qd8::PermissionObject* PM);
+    // The same, the control sharing the object's ownership: it lives at least as long as
+    // the control keeps it (a host may hand over the object it made and let go of it).
+    void SetPermission(std::shared_ptr<PermissionObject> PM);
+    // The permission object the host handed over, while it lives; nullptr when there is
+    // none (a control then makes a database-backed one where it needs one).
+    PermissionObject* permission() const { return m_permission; }
+    // Hands the host form to the control's editing grid (GridEditor::SetParentForm) and
+    // returns the grid's answer unchanged; 0 for a control without a grid. Callable by name
+    // through the meta-object.
+    Q_INVOKABLE virtual int SetParentForm(QWidget* PassForm, bool ActionSingleControl = false);
     QWidget* parentForm() const { return m_parentForm; }
     Q_INVOKABLE void SetPrintCommand(qint32 DTSID, const QString& AppPath, const QString& UserName, const QString& UserPassword);
     const qd8::PrintCommand& printCommand() const { return m_printCommand; }
@@ -122,6 +137,8 @@ protected:
     // A design-time key's value; by default the property of that name.
     virtual QString designProperty(const QString& key) const;
     virtual void setDesignProperty(const QString& key, const QString& value);
+    // The editing grid SetParentForm hands the form to; nullptr for a control without one.
+    virtual GridEditor* hostedGrid() const { return nullptr; }
     // Tool-bar buttons (QAction or QWidget) under their right keys, for SetPermission.
     void registerToolButton(const QString& key, QObject* button);
     QObject* toolButton(const QString& key) const;
@@ -136,6 +153,8 @@ private:
     std::shared_ptr<DataObject> m_dataObject;
     std::shared_ptr<AppObject> m_appObject;
     std::shared_ptr<ClientObject> m_clientObject;
+    QPointer<PermissionObject> m_permission;
+    std::shared_ptr<PermissionObject> m_heldPermission;  // when the host shared its ownership
     QPointer<QWidget> m_parentForm;
     qd8::PrintCommand m_printCommand;
     QHash<QString, QPointer<QObject>> m_toolButtons;

@@ -58,6 +58,7 @@ void PickListModel::load(const PickRequest& request)
     beginResetModel();
     m_cursor.close();
     m_columns.clear();
+    m_shown.clear();
     m_keyColumn = -1;
     m_notice.clear();
     m_failed = false;
@@ -93,12 +94,22 @@ void PickListModel::load(const PickRequest& request)
         check("caption", request.captionList, captions.size());
         check("width", request.widthList, widths.size());
         check("type", request.typeList, types.size());
+        // Label lists are optional: fewer than the fields leave the rest unlabelled.
+        if (request.labelLists.size() > fields.size())
+            check("label", request.labelLists.join(QLatin1Char('|')), request.labelLists.size());
         m_notice = surplus.join(QLatin1Char('\n'));
 
         QList<Column> columns;
-        for (qsizetype i = 0; i < fields.size(); ++i)
-            columns.append({fields[i].trimmed(), captions[i], widths[i], types[i].trimmed() == QLatin1String("0"), -1});
+        QList<GridColumn> shown;
+        for (qsizetype i = 0; i < fields.size(); ++i) {
+            const QString labelList = request.labelLists.value(i);
+            shown << GridColumn::fromDefinition(captions[i], widths[i],
+                labelList.isEmpty() ? QStringLiteral("TEXT") : QStringLiteral("LABELLIST"), 0, -1, labelList);
+            columns.append({fields[i].trimmed(), captions[i], widths[i], types[i].trimmed() == QLatin1String("0") || !labelList.isEmpty(), -1,
+                shown.last().labels});
+        }
         m_columns = columns;
+        m_shown = shown;
 
         m_cursor.open(Sql(QStringLiteral("SELECT ") + request.fieldList + QStringLiteral(" FROM ") + request.source),
             request.connectionString, FirstRows);
@@ -151,6 +162,19 @@ QString PickListModel::keyAt(int row) const
     if (row < 0 || row >= rowCount() || m_keyColumn < 0)
         return {};
     return text(m_cursor.value(sourceRow(row), m_columns[m_keyColumn].cursorColumn));
+}
+
+QString PickListModel::cellText(qsizetype sourceRow, int column) const
+{
+    const QString stored = text(m_cursor.value(sourceRow, m_columns[column].cursorColumn));
+    return m_columns[column].labels.isEmpty() ? stored : m_shown[column].displayText(stored, 0);
+}
+
+QString PickListModel::shownText(int row, int column) const
+{
+    if (row < 0 || row >= rowCount() || column < 0 || column >= m_columns.size())
+        return {};
+    return cellText(sourceRow(row), column);
 }
 
 qsizetype PickListModel::sourceRow(int row) const
@@ -243,7 +267,7 @@ void PickListModel::indexRows()
     m_rowStart.reserve(size_t(rows + 1));
     for (; row < rows; ++row) {
         for (int c : std::as_const(m_searchColumns)) {
-            m_index += text(m_cursor.value(row, m_columns[c].cursorColumn));
+            m_index += cellText(row, c);
             m_index += CellEnd;
         }
         m_rowStart.push_back(m_index.size());
@@ -297,7 +321,7 @@ QVariant PickListModel::data(const QModelIndex& index, int role) const
     const Column& column = m_columns[index.column()];
     switch (role) {
     case Qt::DisplayRole:
-        return text(m_cursor.value(sourceRow(index.row()), column.cursorColumn));
+        return cellText(sourceRow(index.row()), index.column());
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::Alignment((column.isText ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter));
     default:

@@ -2,6 +2,7 @@
 
 #include "foundation/Cursor.h"
 #include "foundation/PickRequest.h"
+#include "widgets/GridColumn.h"
 
 #include <QAbstractTableModel>
 #include <QList>
@@ -12,8 +13,10 @@ namespace qd8 {
 
 // The rows of a pick list: one column per entry of the request's field list, read from
 // "SELECT <fields> FROM <source>" through a forward cursor, a screen at a time as a view
-// asks for more. A search keeps, in the source's own order, the rows whose shown text
-// columns contain the searched text; it reads the rest of the rows first.
+// asks for more. A column with a label list shows the label of each stored code (as the
+// editing grid does, GridColumn), and is searched and aligned as text. A search keeps, in
+// the source's own order, the rows whose shown text columns contain the searched text; it
+// reads the rest of the rows first.
 class PickListModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -22,8 +25,9 @@ public:
         QString field;
         QString caption;
         int widthTwips = 0;  // 0: the column is hidden but its value is there
-        bool isText = true;  // type code "0"; any other code is a number
+        bool isText = true;  // type code "0" or a label list; any other code is a number
         int cursorColumn = -1;
+        QList<GridLabel> labels;  // the column's label list; none: the stored value is shown
     };
 
     static constexpr qsizetype FirstRows = 100;
@@ -44,6 +48,8 @@ public:
     int keyColumn() const { return m_keyColumn; }
     // The key field's value of a shown row as text ("" for NULL).
     QString keyAt(int row) const;
+    // What a cell shows: its stored value as text, a label list's label for its code.
+    QString shownText(int row, int column) const;
 
     // Keeps the rows whose shown text columns contain `text` (Latin letters without
     // regard to case); "" shows every row again.
@@ -67,6 +73,7 @@ signals:
 
 private:
     qsizetype sourceRow(int row) const;
+    QString cellText(qsizetype sourceRow, int column) const;
     // Reads up to `rows` more rows into the cursor; false (and fetchFailed) on an error.
     bool readMore(qsizetype rows);
     // Shows the rows read but not yet shown (while no search is on).
@@ -76,6 +83,7 @@ private:
     std::vector<int> findRows(const QString& needle, const std::vector<int>* within) const;
 
     QList<Column> m_columns;
+    QList<GridColumn> m_shown;  // per column: how a stored value is shown
     int m_keyColumn = -1;
     QString m_notice;
     Cursor m_cursor;

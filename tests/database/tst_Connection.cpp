@@ -4,9 +4,11 @@
 #include "foundation/DbError.h"
 #include "foundation/Recordset.h"
 #include "foundation/SqlTrace.h"
+#include "foundation/TransactionGuard.h"
 #include "foundation/Values.h"
 
 #include <QDate>
+#include <functional>
 
 using namespace qd8;
 using namespace qd8::test;
@@ -125,6 +127,37 @@ TEST_P(ConnectionTest, AFailedStatementInATransactionLeavesNothingWritten)
     next.open(db->connectionString());
     EXPECT_FALSE(next.inTransaction());
     EXPECT_EQ(count(), 6);
+}
+
+TEST_P(ConnectionTest, ATransactionGuardKeepsOnlyWhatWasCommitted)
+{
+    struct Case {
+        const char* name;
+        std::function<void(Connection&, TransactionGuard&)> work;  // inserts row 7, then...
+        qint64 rows;  // left in the table
+    };
+    const Case cases[] = {
+        {"committed", [](Connection&, TransactionGuard& t) { t.commit(); }, 7},
+        {"left without a commit", [](Connection&, TransactionGuard&) {}, 6},
+        {"a failing statement on its way out",
+            [](Connection& c, TransactionGuard&) { c.execute("INSERT INTO QD8TSample (TSmpID, TSmpCode) VALUES (1, 'dup')"); }, 6},
+        {"rolled back early, then leaving", [](Connection&, TransactionGuard& t) { t.rollback(); }, 6},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        Connection connection;
+        connection.open(db->connectionString());
+        try {
+            TransactionGuard transaction(connection);
+            EXPECT_TRUE(connection.inTransaction());
+            connection.execute("INSERT INTO QD8TSample (TSmpID, TSmpCode) VALUES (7, 'G')");
+            c.work(connection, transaction);
+        } catch (const DbError&) {
+        }
+        EXPECT_FALSE(connection.inTransaction());
+        EXPECT_EQ(count(), c.rows);
+        connection.execute("DELETE FROM QD8TSample WHERE TSmpID=7");
+    }
 }
 
 TEST_P(ConnectionTest, ThaiNamesSortInDictionaryOrder)

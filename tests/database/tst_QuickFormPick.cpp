@@ -42,7 +42,7 @@ TEST_P(QuickFormPickTest, TheSampleFormHandsTheListServiceItsExactDescription)
     const PickRequest expected{QStringLiteral("ประเภทพนักงาน"), QStringLiteral("TEmTCode"),
         QStringLiteral("TEmTCode,TEmTName,TEmTName2,TEmTSort"), QStringLiteral("รหัส,ชื่อประเภทพนักงาน,ชื่อภาษาอังกฤษ,ลำดับ"),
         QStringLiteral("1200,3500,3500,800"), QStringLiteral("0,0,0,0"), QStringLiteral("QD8TEmployeeType WHERE TEmTFlag1=1 ORDER BY TEmTSort"),
-        dataConnectionString(), 0, 0, 0, 1, 0, 0};
+        dataConnectionString(), 0, 0, 0, 1, 0, 0, {}};
     EXPECT_EQ(scriptedPicker().requests[0], expected);
 }
 
@@ -71,6 +71,9 @@ const Shape shapes[] = {
         "QD8TEmployeeType WHERE TEmTFlag1=1", "QD8TEmployeeType AND TEmTSort<3", 10000},
     {"FormWhereReplacesTheInUseFilter", {{"TEmTCode", "TEXT", "1000"}}, "TEmTCode<>'03'", "TEmTName", "0", "1000",
         "QD8TEmployeeType WHERE TEmTCode<>'03' ORDER BY TEmTName", "QD8TEmployeeType WHERE TEmTCode<>'03' AND TEmTSort<3 ORDER BY TEmTName", 0},
+    // Type words are read as the editor reads them: any case, blanks around.
+    {"TypeWordsInAnyCase", {{"TEmTSort", " Number ", "800"}, {"TEmTFlag1", "number", "500"}, {"TEmTCode", "text", "1000"}}, "", "",
+        ",,0", "800,500,1000", "QD8TEmployeeType WHERE TEmTFlag1=1", "QD8TEmployeeType AND TEmTSort<3", 0},
 };
 
 TEST_P(QuickFormPickTest, ListsAreBuiltFieldByFieldWithTheTypeCodeQuirkAndTheWidthRule)
@@ -111,11 +114,36 @@ TEST_P(QuickFormPickTest, EmptyAliasOrMetadataStringGivesNothingWithoutOpeningAn
 
 TEST_P(QuickFormPickTest, AWidthThatIsNotANumberEndsTheRoutine)
 {
-    if (engine() != Engine::SQLite)
-        GTEST_SKIP() << "only SQLite keeps text in an INTEGER column";
-    defineForm(QString(), QString(), {{"TEmTCode", "TEXT", "'wide'"}});
-    EXPECT_THROW(QuickFormPick(QStringLiteral("T1"), appConnectionString(), dataConnectionString()), DbError);
-    EXPECT_TRUE(scriptedPicker().requests.isEmpty());
+    // Null ends it as any other non-number does (on both engines); text only SQLite keeps
+    // in an INTEGER column.
+    QStringList widths{"NULL"};
+    if (engine() == Engine::SQLite)
+        widths << "'wide'";
+    for (const QString& width : widths) {
+        SCOPED_TRACE(width.toStdString());
+        runOnApp({QStringLiteral("DELETE FROM QD8TQuickField WHERE TQFFTQFmAlias='T1'"), QStringLiteral("DELETE FROM QD8TQuickForm WHERE TQFmAlias='T1'")});
+        defineForm(QString(), QString(), {{"TEmTCode", "TEXT", "1000"}, {"TEmTName", "TEXT", width}});
+        scriptedPicker().reset();
+        EXPECT_THROW(QuickFormPick(QStringLiteral("T1"), appConnectionString(), dataConnectionString()), DbError);
+        EXPECT_THROW(QuickFormPickAll(QStringLiteral("T1"), appConnectionString(), dataConnectionString(), QString()), DbError);
+        EXPECT_TRUE(scriptedPicker().requests.isEmpty());
+    }
+}
+
+TEST_P(QuickFormPickTest, ALabelListFieldHandsItsLabelsToThePickList)
+{
+    // The sample's projects: the level is a LABELLIST ("0;บริษัท,1;ฝ่าย,2;แผนก"); the
+    // type word is matched in any case. A label list on a field that is no LABELLIST is not
+    // handed on.
+    runOnApp({"UPDATE QD8TQuickField SET TQFFFieldType=' labellist ' WHERE TQFFTQFmAlias='PROJECT' AND TQFFFieldName='TPrjLevel'",
+        "UPDATE QD8TQuickField SET TQFFLabelList='A;x,B;y' WHERE TQFFTQFmAlias='PROJECT' AND TQFFSort=1"});
+    QuickFormPick(QStringLiteral("PROJECT"), appConnectionString(), dataConnectionString());
+    ASSERT_EQ(scriptedPicker().requests.size(), 1);
+    const PickRequest& r = scriptedPicker().requests[0];
+    const QStringList fields = r.fieldList.split(',');
+    ASSERT_EQ(r.labelLists.size(), fields.size());
+    for (int i = 0; i < fields.size(); ++i)
+        EXPECT_EQ(r.labelLists[i], fields[i] == "TPrjLevel" ? "0;บริษัท,1;ฝ่าย,2;แผนก" : "") << fields[i].toStdString();
 }
 
 QD8_ON_BOTH_ENGINES(QuickFormPickTest);

@@ -1,6 +1,7 @@
 #include "support/SampleCompany.h"
 #include "support/ScriptedServices.h"
 
+#include "database/PermissionObject.h"
 #include "editors/QuickGrid.h"
 #include "foundation/Connection.h"
 #include "foundation/Recordset.h"
@@ -115,6 +116,72 @@ TEST_P(QuickGridTest, LoadingReadsTheActiveFormItsActiveFieldsAndTheRows)
     EXPECT_EQ(grid.RUNMODE(), "BLANK");
     ASSERT_EQ(scriptedMessages().shown.size(), 1);
     EXPECT_TRUE(scriptedMessages().shown[0].text.contains("TDivNmae"));
+}
+
+TEST_P(QuickGridTest, FillDataWithNoFormChosenAndNoDefaultOpensNothing)
+{
+    grid.setQuickGroup("GL");
+    grid.Refresh();
+    ASSERT_FALSE(grid.groupForms().isEmpty());  // forms to offer, none chosen
+    SqlTrace::Recorder trace;
+    grid.FillData();
+    EXPECT_TRUE(trace.entries().isEmpty());
+    EXPECT_TRUE(scriptedMessages().shown.isEmpty());
+    EXPECT_EQ(grid.RUNMODE(), "BLANK");
+    EXPECT_EQ(grid.selectedAlias(), "");
+    EXPECT_EQ(grid.grid()->Cols(), 0);
+
+    grid.setDefaultFormAlias("QDIV");
+    grid.FillData();
+    EXPECT_EQ(grid.selectedAlias(), "QDIV");
+    EXPECT_EQ(grid.RUNMODE(), "VIEW");
+}
+
+TEST_P(QuickGridTest, TypeWordsMeanTheSameInAnyCase)
+{
+    // The key typed " text " is still a TEXT key (quoted in SQL); " Number " a number column.
+    runOnApp({"UPDATE QD8TQuickField SET TQFFFieldType=' text ' WHERE TQFFID=9001",
+        "UPDATE QD8TQuickField SET TQFFFieldType=' Number ' WHERE TQFFID=9004"});
+    grid.cmdWhereShow("QDIV");
+    ASSERT_EQ(grid.RUNMODE(), "VIEW");
+    EXPECT_EQ(grid.form().fields[0].type, "TEXT");
+    EXPECT_EQ(grid.grid()->column(4).type, GridColumnType::Number);
+    grid.button("Edit")->trigger();
+    grid.grid()->SetValue(1, 4, 7);
+    scriptedMessages().answers = {true};
+    SqlTrace::Recorder trace;
+    ASSERT_TRUE(grid.save());
+    EXPECT_TRUE(trace.composed().contains("SELECT * FROM QD8TDivision WHERE TDivCode='D01'"));
+    EXPECT_EQ(divisions().first(), "D01|บัญชี|7");
+}
+
+TEST_P(QuickGridTest, SetPermissionAndSetParentFormBindLate)
+{
+    // A host that knows the control only through the meta-object.
+    QWidget form;
+    int answer = -1;
+    ASSERT_TRUE(QMetaObject::invokeMethod(&grid, "SetParentForm", Q_RETURN_ARG(int, answer), Q_ARG(QWidget*, &form)));
+    EXPECT_EQ(answer, 1);  // the hosted grid took the form
+    EXPECT_EQ(grid.parentForm(), &form);
+    EXPECT_EQ(grid.grid()->parentForm(), &form);
+    EXPECT_FALSE(grid.grid()->actionSingleControl());
+    ASSERT_TRUE(QMetaObject::invokeMethod(&grid, "SetParentForm", Q_RETURN_ARG(int, answer), Q_ARG(QWidget*, &form), Q_ARG(bool, true)));
+    EXPECT_EQ(answer, 1);
+    EXPECT_TRUE(grid.grid()->actionSingleControl());
+    ASSERT_TRUE(QMetaObject::invokeMethod(&grid, "SetParentForm", Q_RETURN_ARG(int, answer), Q_ARG(QWidget*, nullptr)));
+    EXPECT_EQ(answer, 0);
+    EXPECT_EQ(grid.grid()->parentForm(), nullptr);
+    EXPECT_EQ(grid.SetParentForm(&form), 1);  // the C++ signature hosts use
+
+    // SetPermission by name: the rights the object lacks disable their buttons.
+    grid.cmdWhereShow("QDIV");
+    DbPermissionObject rights(dataConnectionString(), 2);
+    rights.LoadCommandRights(2, "NOSUCHCOMMAND", dataConnectionString(), appConnectionString());  // no rights at all
+    ASSERT_TRUE(QMetaObject::invokeMethod(&grid, "SetPermission", Q_ARG(qd8::PermissionObject*, &rights)));
+    EXPECT_EQ(grid.permission(), &rights);
+    EXPECT_FALSE(grid.button("Edit")->isEnabled());
+    EXPECT_FALSE(grid.button("Print")->isEnabled());
+    EXPECT_TRUE(grid.button("Close")->isEnabled());  // no right governs it
 }
 
 TEST_P(QuickGridTest, TheToolBarFollowsTheMode)
@@ -234,6 +301,31 @@ TEST_P(QuickGridTest, AKeyStillInUseIsNotDeleted)
     EXPECT_FALSE(grid.save());
     EXPECT_EQ(scriptedMessages().shown.last().text, "ฝ่ายนี้มีแผนกใช้อยู่ (D01)");
     EXPECT_EQ(divisions().size(), 3);
+}
+
+TEST_P(QuickGridTest, AColumnsDeletionCheckLooksInTheTableOfTheFormItNames)
+{
+    // Not the form's own check this time: the key column names QDEP, whose table refers to
+    // it by QDEP's prefix + the column's name (QD8TDepartment.TDepTDivCode).
+    runOnApp({"UPDATE QD8TQuickForm SET TQFmDeleteAuto=0 WHERE TQFmAlias='QDIV'",
+        "UPDATE QD8TQuickField SET TQFFCanDeleteAlias='QDEP' WHERE TQFFID=9001"});
+    grid.cmdWhereShow("QDIV");
+    grid.button("Edit")->trigger();
+    grid.grid()->DeleteRow(1);  // D01 has a department
+    scriptedMessages().answers = {true};
+    SqlTrace::Recorder trace;
+    EXPECT_FALSE(grid.save());
+    EXPECT_EQ(scriptedMessages().shown.last().text, "รหัสฝ่าย D01 ยังถูกใช้งานอยู่ ลบไม่ได้");
+    EXPECT_TRUE(trace.composed().contains("SELECT * FROM QD8TQuickForm WHERE TQFmAlias='QDEP'"));
+    EXPECT_TRUE(trace.composed().contains("SELECT TDepTDivCode FROM QD8TDepartment WHERE TDepTDivCode='D01'"));
+    EXPECT_EQ(divisions().size(), 3);
+
+    grid.cmdCancel_Click();
+    grid.button("Edit")->trigger();
+    grid.grid()->DeleteRow(2);  // D02 has none
+    scriptedMessages().answers = {true};
+    EXPECT_TRUE(grid.save());
+    EXPECT_EQ(divisions().size(), 2);
 }
 
 TEST_P(QuickGridTest, CellChecksRefuseDuplicatesBoundsAndLength)

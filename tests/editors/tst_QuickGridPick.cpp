@@ -1,6 +1,7 @@
 #include "support/SampleCompany.h"
 #include "support/ScriptedServices.h"
 
+#include "database/PermissionObject.h"
 #include "editors/QuickGrid.h"
 #include "foundation/SqlTrace.h"
 #include "widgets/GridEditor.h"
@@ -9,6 +10,7 @@
 #include <QAction>
 #include <QSignalSpy>
 #include <QTest>
+#include <functional>
 
 using namespace qd8;
 using namespace qd8::test;
@@ -46,7 +48,30 @@ protected:
         grid.SelectQuickForm3(QString::fromLatin1(alias), hf, QString::fromLatin1(filter));
         return scriptedPicker().requests.value(0);
     }
+    // A quick form named after the employee-type table, which is scoped.
+    void defineEmployeeTypeForm()
+    {
+        runOnApp({"INSERT INTO QD8TQuickForm (TQFmAlias, TQFmCaption, TQFmCaption2, TQFmTable, TQFmView, TQFmKeyIDEN, TQFmPKList, TQFmOrder) "
+                  "VALUES ('QD8TEmployeeType', 'ประเภท', 'Types', 'QD8TEmployeeType', 'QD8TEmployeeType', 'TEmT', 'TEmTCode', 'TEmTSort')",
+            "INSERT INTO QD8TQuickField (TQFFID, TQFFTQFmAlias, TQFFSort, TQFFFieldName, TQFFCaption, TQFFCaption2, TQFFPrimaryKey) "
+            "VALUES (9201, 'QD8TEmployeeType', 1, 'TEmTCode', 'รหัส', 'Code', 1)"});
+    }
     QuickGrid grid;
+};
+
+// The host's own permission object: every right, and employee types limited to '07',
+// recording what it was asked.
+class HostPermission : public PermissionObject {
+public:
+    void LoadCommandRights(qint32, const QString&, const QString&, const QString&) override {}
+    int right(const QString&) const override { return 1; }
+    bool hasRight(const QString&) override { return true; }
+    QString employeeScope(const QString& field, int level) override
+    {
+        asked << QStringLiteral("%1@%2").arg(field).arg(level);
+        return field + QStringLiteral(" IN ('07')");
+    }
+    QStringList asked;
 };
 
 TEST_P(QuickGridPickTest, ThePickQueryListsEveryFieldAndFiltersActiveRows)
@@ -75,16 +100,90 @@ TEST_P(QuickGridPickTest, ThePickQueryListsEveryFieldAndFiltersActiveRows)
 
 TEST_P(QuickGridPickTest, EmployeeTableFormsAreLimitedToTheUsersEmployeeTypes)
 {
-    // A form named after an employee table is scoped; the sample's EMPTYPE is not.
-    runOnApp({"INSERT INTO QD8TQuickForm (TQFmAlias, TQFmCaption, TQFmCaption2, TQFmTable, TQFmView, TQFmKeyIDEN, TQFmPKList, TQFmOrder) "
-              "VALUES ('QD8TEmployeeType', 'ประเภท', 'Types', 'QD8TEmployeeType', 'QD8TEmployeeType', 'TEmT', 'TEmTCode', 'TEmTSort')",
-        "INSERT INTO QD8TQuickField (TQFFID, TQFFTQFmAlias, TQFFSort, TQFFFieldName, TQFFCaption, TQFFCaption2, TQFFPrimaryKey) "
-        "VALUES (9201, 'QD8TEmployeeType', 1, 'TEmTCode', 'รหัส', 'Code', 1)"});
+    // A form named after an employee table is scoped; the sample's EMPTYPE is not. No
+    // permission object from the host: the editor asks the database.
+    defineEmployeeTypeForm();
     EXPECT_EQ(pick("EMPTYPE", 1).source, "QD8TEmployeeType WHERE TEmTFlag1=1 ORDER BY TEmTSort");
     EXPECT_EQ(pick("QD8TEmployeeType", 0).source, "QD8TEmployeeType WHERE TEmTFlag1=1 ORDER BY TEmTSort");
     // JOHN (user 2) sees employee types 01 and 02 at level 0, asked for with HF 1.
     EXPECT_EQ(pick("QD8TEmployeeType", 1).source, "QD8TEmployeeType WHERE TEmTFlag1=1 AND TEmTCode IN ('01','02') ORDER BY TEmTSort");
     EXPECT_EQ(pick("QD8TEmployeeType", 2).source, "QD8TEmployeeType WHERE TEmTFlag1=1 ORDER BY TEmTSort");  // nothing at level 1
+}
+
+TEST_P(QuickGridPickTest, EmployeeScopeAsksThePermissionObjectTheHostHandedOver)
+{
+    defineEmployeeTypeForm();
+    const QString limited = "QD8TEmployeeType WHERE TEmTFlag1=1 AND TEmTCode IN ('07') ORDER BY TEmTSort";
+    const QString johns = "QD8TEmployeeType WHERE TEmTFlag1=1 AND TEmTCode IN ('01','02') ORDER BY TEmTSort";
+    const QString unscoped = "QD8TEmployeeType WHERE TEmTFlag1=1 ORDER BY TEmTSort";
+    auto kept = std::make_unique<HostPermission>();
+    const struct Case {
+        const char* how;
+        std::function<void()> hand;  // what the host does before asking
+        int hf;
+        QString source;
+        QStringList asked;  // of the object kept
+    } cases[] = {
+        {"by reference", [&] { grid.SetPermission(*kept); }, 1, limited, {"TEmTCode@0"}},
+        {"level HF - 1", [] {}, 2, limited, {"TEmTCode@1"}},
+        {"HF 0 asks nobody", [] {}, 0, unscoped, {}},
+        {"late bound", [&] {
+             ASSERT_TRUE(QMetaObject::invokeMethod(&grid, "SetPermission", Q_ARG(qd8::PermissionObject*, kept.get())));
+         }, 1, limited, {"TEmTCode@0"}},
+        {"late bound nullptr: the database's", [&] {
+             ASSERT_TRUE(QMetaObject::invokeMethod(&grid, "SetPermission", Q_ARG(qd8::PermissionObject*, nullptr)));
+         }, 1, johns, {}},
+        {"destroyed by the host: the database's", [&] {
+             auto gone = std::make_unique<HostPermission>();
+             grid.SetPermission(*gone);
+         }, 1, johns, {}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.how);
+        if (kept)
+            kept->asked.clear();
+        c.hand();
+        SqlTrace::Recorder trace;
+        EXPECT_EQ(pick("QD8TEmployeeType", c.hf).source, c.source);
+        if (kept) {
+            EXPECT_EQ(kept->asked, c.asked);
+        }
+        // The host's object answers without the database's rights being read.
+        const bool readRights = trace.composed().join('\n').contains("QD8TUserRight");
+        EXPECT_EQ(readRights, c.source == johns);
+    }
+
+    // A host may hand the object over and let go of it: the control keeps it.
+    auto shared = std::make_shared<HostPermission>();
+    HostPermission* const handed = shared.get();
+    grid.SetPermission(std::move(shared));
+    EXPECT_EQ(pick("QD8TEmployeeType", 1).source, limited);
+    EXPECT_EQ(handed->asked, QStringList{"TEmTCode@0"});
+    EXPECT_EQ(grid.permission(), handed);
+    grid.SetPermission(nullptr);
+    EXPECT_EQ(grid.permission(), nullptr);
+}
+
+TEST_P(QuickGridPickTest, ALabelListColumnHandsItsLabelsToThePickList)
+{
+    // Type words in any case: " labellist " is a LABELLIST in the pick list and in the grid.
+    runOnApp({"UPDATE QD8TQuickField SET TQFFFieldType=' labellist ', TQFFLabelList='1;หนึ่ง,2;สอง' WHERE TQFFID=9103",
+        "UPDATE QD8TQuickField SET TQFFFieldType='LabelList' WHERE TQFFTQFmAlias='PROJECT' AND TQFFFieldName='TPrjLevel'"});
+    const PickRequest branches = pick("QBRA");
+    EXPECT_EQ(branches.typeList, "0,0,13,0");
+    EXPECT_EQ(branches.labelLists, (QStringList{"", "", "1;หนึ่ง,2;สอง", ""}));
+    const PickRequest projects = pick("PROJECT");
+    EXPECT_EQ(projects.fieldList, "TPrjCode,TPrjName,TPrjName2,TPrjLevel");
+    EXPECT_EQ(projects.typeList, "0,0,0,13");
+    EXPECT_EQ(projects.labelLists, (QStringList{"", "", "", "0;บริษัท,1;ฝ่าย,2;แผนก"}));
+
+    grid.cmdWhereShow("PROJECT");
+    ASSERT_EQ(grid.RUNMODE(), "VIEW");
+    EXPECT_EQ(grid.grid()->column(4).type, GridColumnType::LabelList);
+    EXPECT_EQ(grid.grid()->column(4).labels.size(), 3);
+
+    // A form without labels hands none.
+    EXPECT_TRUE(pick("EMPTYPE").labelLists.isEmpty());
 }
 
 TEST_P(QuickGridPickTest, F2PutsThePickedKeyIntoTheCurrentCell)
@@ -157,6 +256,15 @@ TEST_P(QuickGridPickTest, AutomaticPrintHandsTheCodeListStatementToTheHost)
     grid.button("Print")->trigger();
     EXPECT_EQ(commands, QStringList{"GLTB"});
     EXPECT_EQ(printed.size(), 2);
+
+    // The captions go as the columns were loaded: a column with a pick list keeps " (F2)".
+    runOnApp({"UPDATE QD8TQuickForm SET TQFmPrintTCmdAlias=NULL WHERE TQFmAlias='QBRA'",
+        "UPDATE QD8TQuickField SET TQFFRunQuickForm='EMPTYPE' WHERE TQFFID=9102"});
+    grid.cmdWhereShow("QBRA");
+    EXPECT_EQ(grid.grid()->TextMatrix(0, 2), "Name (F2)");
+    grid.button("Print")->trigger();
+    ASSERT_EQ(printed.size(), 3);
+    EXPECT_EQ(printed[2][2], "Title;Branches#Caption1;Code#Caption2;Name (F2)");
 }
 
 QD8_ON_BOTH_ENGINES(QuickGridPickTest);

@@ -13,6 +13,7 @@
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
+#include <memory>
 
 #include <gtest/gtest.h>
 
@@ -70,6 +71,18 @@ protected:
 
     GridEditor grid;
 };
+
+TEST_F(GridEditorTest, SetParentFormRecordsTheHostFormAndSaysWhetherItTookOne)
+{
+    auto form = std::make_unique<QWidget>();
+    EXPECT_EQ(grid.SetParentForm(form.get(), true), 1);
+    EXPECT_EQ(grid.parentForm(), form.get());
+    EXPECT_TRUE(grid.actionSingleControl());
+    form.reset();
+    EXPECT_EQ(grid.parentForm(), nullptr);  // a form that went away is not kept
+    EXPECT_EQ(grid.SetParentForm(nullptr, true), 0);
+    EXPECT_FALSE(grid.actionSingleControl());
+}
 
 TEST_F(GridEditorTest, ColumnsTakeTheirWidthsInTwipsAndZeroHidesOne)
 {

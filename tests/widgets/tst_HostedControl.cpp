@@ -5,6 +5,7 @@
 #include "widgets/HostedControl.h"
 
 #include <QToolButton>
+#include <memory>
 #include <stdexcept>
 
 using namespace qd8;
@@ -64,6 +65,49 @@ TEST(HostedControl, SetPermissionDisablesInTheSuitesOrderAndNeverEnables)
     control.SetPermission(all);
     for (const QString& key : PermissionObject::ToolBarKeys)
         EXPECT_FALSE(control.button(key)->isEnabled()) << key.toStdString() << " was enabled again";
+}
+
+TEST(HostedControl, SetPermissionAndSetParentFormAreCallableByName)
+{
+    // Through the meta-object, as a late-binding host calls them, with the same effect as
+    // the C++ calls.
+    ToolBarControl control;
+    TablePermission none(0);
+    ASSERT_TRUE(QMetaObject::invokeMethod(&control, "SetPermission", Q_ARG(qd8::PermissionObject*, &none)));
+    EXPECT_EQ(none.asked, PermissionObject::ToolBarKeys);
+    for (const QString& key : PermissionObject::ToolBarKeys)
+        EXPECT_FALSE(control.button(key)->isEnabled()) << key.toStdString();
+    EXPECT_EQ(control.permission(), &none);
+
+    QWidget form;
+    int answer = -1;
+    ASSERT_TRUE(QMetaObject::invokeMethod(&control, "SetParentForm", Q_RETURN_ARG(int, answer), Q_ARG(QWidget*, &form)));
+    EXPECT_EQ(answer, 0);  // no grid to hand the form to
+    EXPECT_EQ(control.parentForm(), &form);
+}
+
+TEST(HostedControl, TheControlKeepsThePermissionObjectWhileItLives)
+{
+    ToolBarControl control;
+    EXPECT_EQ(control.permission(), nullptr);
+    {
+        TablePermission passing(1);
+        control.SetPermission(passing);
+        EXPECT_EQ(control.permission(), &passing);
+    }
+    EXPECT_EQ(control.permission(), nullptr);  // the host destroyed it: nothing dangles
+
+    auto shared = std::make_shared<TablePermission>(1);
+    std::weak_ptr<TablePermission> watch = shared;
+    control.SetPermission(std::move(shared));  // handed over; the host lets go
+    ASSERT_FALSE(watch.expired());
+    EXPECT_EQ(control.permission(), watch.lock().get());
+    TablePermission next(1);
+    control.SetPermission(next);  // another one replaces it
+    EXPECT_TRUE(watch.expired());
+    EXPECT_EQ(control.permission(), &next);
+    control.SetPermission(nullptr);
+    EXPECT_EQ(control.permission(), nullptr);
 }
 
 TEST(HostedControl, ASavedIconFolderDoesNotComeBackFromThePropertyBag)

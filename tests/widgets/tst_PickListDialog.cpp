@@ -295,6 +295,55 @@ TEST_P(PickListTest, BadRequestsShowTheirReasonInsideTheDialog)
     }
 }
 
+TEST_P(PickListTest, ALabelListColumnShowsTheLabelOfEachStoredCode)
+{
+    // The sort number as a label list (code;label, or a bare label coded by its position),
+    // the way a LABELLIST column of a quick form reaches the pick list.
+    PickRequest request = goods();
+    request.fieldList = QStringLiteral("TPiID,TPiCode,TPiSort");
+    request.captionList = QStringLiteral("ID,รหัส,ลำดับ");
+    request.widthList = QStringLiteral("0,1200,2000");
+    request.typeList = QStringLiteral("0,0,13");
+    struct Case {
+        const char* name;
+        QStringList labelLists;
+        QStringList shown;  // the third column, rows in TPiSort order
+    };
+    const Case cases[] = {
+        {"codes named", {"", "", "1;หนึ่ง,2;สอง,3;สาม,4;สี่,5;ห้า"}, {"หนึ่ง", "สอง", "สาม", "ห้า"}},
+        {"codes by position; a code the list lacks shows itself", {"", "", "ศูนย์,หนึ่ง,สอง"}, {"หนึ่ง", "สอง", "3", "5"}},
+        {"no label lists", {}, {"1", "2", "3", "5"}},
+        {"fewer label lists than fields", {""}, {"1", "2", "3", "5"}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        request.labelLists = c.labelLists;
+        PickListDialog dialog(request);
+        ASSERT_EQ(dialog.errorText(), QString());
+        const PickListModel& model = *dialog.model();
+        QStringList shown;
+        for (int r = 0; r < model.rowCount(); ++r) {
+            shown << model.index(r, 2).data().toString();
+            EXPECT_EQ(model.shownText(r, 2), shown.last());
+        }
+        EXPECT_EQ(shown, c.shown);
+        EXPECT_EQ(shownKeys(model), (QStringList{"2", "3", "1", "4"}));  // the key is picked as stored
+    }
+
+    // Labels are text: searched and aligned as text.
+    request.labelLists = cases[0].labelLists;
+    PickListDialog dialog(request);
+    EXPECT_EQ(dialog.model()->index(0, 2).data(Qt::TextAlignmentRole).value<Qt::Alignment>() & Qt::AlignHorizontal_Mask, Qt::AlignLeft);
+    dialog.searchBox()->setText(QStringLiteral("สาม"));
+    EXPECT_EQ(shownKeys(*dialog.model()), QStringList{"1"});
+
+    // More label lists than fields are ignored, and said so.
+    request.labelLists << QStringLiteral("x;y");
+    PickListDialog surplus(request);
+    EXPECT_TRUE(surplus.errorText().contains(QStringLiteral("ignored"))) << surplus.errorText().toStdString();
+    EXPECT_EQ(surplus.model()->rowCount(), 4);
+}
+
 TEST_P(PickListTest, ListsWrittenForOneFieldMayBeOneEmptyEntry)
 {
     // A lone numeric field: its type list is "" (one empty entry), and so may its caption be.

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QVariant>
+
+namespace qd8 {
+
+class Connection;
+
+// One row of QD8TQuickField as read: the column of a quick form. Flags left Null take the
+// column's usual meaning (noted per member).
+struct QuickFieldMetadata {
+    QString fieldName;       // TQFFFieldName
+    QString caption;         // TQFFCaption (Thai)
+    QString caption2;        // TQFFCaption2 (English)
+    QString type;            // TQFFFieldType through normalTypeWord: "LABELLIST", "NUMBER"...
+    QVariant width;          // TQFFWidth as stored; what Null or a non-number means is the reader's
+    bool active = true;      // TQFFFlag1 = 1
+    bool primaryKey = false; // TQFFPrimaryKey = 1
+    int decimals = 0;
+    bool minCon = false;
+    double minValue = 0;
+    bool maxCon = false;
+    double maxValue = 0;
+    int maxLength = 0;
+    bool canDuplicate = true;  // Null: may
+    bool canBlank = false;     // only the text "1" allows a blank
+    bool canEdit = true;       // Null: may
+    QString canDeleteAlias;
+    int titleAlign = -1;       // Null: -1, left to the type
+    int rowAlign = -1;
+    QString labelList;         // TQFFLabelList
+    QString defaultValue;
+    QString defaultText;
+    QString runQuickForm;      // TQFFRunQuickForm: the F2 pick list
+
+    // TQFFCaption or TQFFCaption2 by the session language.
+    const QString& captionIn(int languageId) const;
+    bool isLabelList() const { return type == QLatin1String("LABELLIST"); }
+};
+
+// A quick form's metadata, QD8TQuickForm and its QD8TQuickField rows, read once by one
+// reader. The editor's definition (editors/QuickFormDefinition), the pick descriptions of
+// the pick routines and of the editor's SelectQuickForm (database/QuickFormPick) and the
+// print captions are all derived from it; nothing else reads these two tables.
+struct QuickFormMetadata {
+    // Which statements are sent; each use keeps the exact texts its Part gives.
+    enum class Reading {
+        // The pick routines (Part 1.3): "SELECT * FROM QD8TQuickForm WHERE TQFmAlias='<a>'",
+        // then "SELECT * FROM QD8TQuickField WHERE TQFFTQFmAlias='<a>' ORDER BY TQFFSort"
+        // whether or not the form row was found; inactive fields included.
+        Pick,
+        // The editor's pick list (SelectQuickForm, Part 3.1): the same two statements, the
+        // fields only when the form row was found.
+        PickQuery,
+        // The editor's load (FillData, Part 3.1): only an active form ("... AND
+        // TQFMFlag1=1") and its active fields ("... AND TQFFFlag1=1 ORDER BY TQFFSort").
+        Editor,
+        // The form row alone, as the pick routines read it (another form's table and key
+        // prefix).
+        FormOnly,
+    };
+
+    QString alias;
+    bool found = false;  // the form row was there
+    QString caption;     // TQFmCaption (Thai)
+    QString caption2;    // TQFmCaption2 (English)
+    QString table;       // TQFmTable: written to (and listed by the pick routines)
+    QString view;        // TQFmView: read from (and listed by SelectQuickForm)
+    QString keyIden;     // TQFmKeyIDEN: the column prefix, "TDiv"
+    QString pkList;      // TQFmPKList as stored (a leading comma included)
+    QString where;       // TQFmWhere, "" for Null
+    QString order;       // TQFmOrder, "" for Null
+    int masterReportNo = 0;
+    bool deleteAuto = false;
+    QString deleteField;
+    QString deleteTable;
+    QString deleteMessage;
+    QString runQuickForm;
+    QString fieldFilter;
+    QString fieldReturn;
+    QString printCommand;  // TQFmPrintTCmdAlias
+    bool canAdd = true;    // Null: may
+    bool canDelete = true; // Null: may
+    bool readOnly = false;
+    QList<QuickFieldMetadata> fields;  // in TQFFSort order, as the reading selects them
+
+    // TQFmCaption or TQFmCaption2 by the session language.
+    const QString& captionIn(int languageId) const;
+    // TQFmPKList without its leading comma.
+    QString keyList() const;
+
+    // Reads the form `alias` and (but for FormOnly) its fields from the application
+    // database. A missing form row gives found false; DbError on a failing statement.
+    static QuickFormMetadata read(Connection& app, const QString& alias, Reading reading);
+};
+
+} // namespace qd8
