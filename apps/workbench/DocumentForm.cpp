@@ -8,6 +8,7 @@
 #include "foundation/DbError.h"
 #include "foundation/Recordset.h"
 #include "foundation/Services.h"
+#include "foundation/TransactionGuard.h"
 #include "foundation/Values.h"
 
 #include <QCheckBox>
@@ -855,17 +856,12 @@ bool DocumentForm::save()
             return false;
         }
         // The row as a whole or nothing: a refusal leaves the table and the form as they were.
-        data.beginTrans();
-        try {
-            if (adding())
-                key = writeNew(data, key);
-            else
-                writeChanges(data);
-            data.commitTrans();
-        } catch (...) {
-            data.rollbackTrans();
-            throw;
-        }
+        TransactionGuard transaction(data);
+        if (adding())
+            key = writeNew(data, key);
+        else
+            writeChanges(data);
+        transaction.commit();
     } catch (const DbError& error) {
         messages.critical(title, error.message() + QLatin1Char('\n')
                 + bilingual("ข้อมูลที่ท่านป้อนยังอยู่ในฟอร์ม ไม่ได้บันทึก", "What you entered is still in the form; nothing was saved."));

@@ -188,9 +188,9 @@ void WorkbenchWindow::setUpControl(HostedControl& control, const QString& comman
     control.SetFirst(data, app, client);
     control.SetLast2(s.appPath + QStringLiteral("/Users/") + s.loginName, commandAlias, QString::number(s.userId),
         s.dataConnectionString, s.appConnectionString);
-    const auto rights = SessionServices::newCommandPermission();
+    std::shared_ptr<PermissionObject> rights = SessionServices::newCommandPermission();
     rights->LoadCommandRights(s.userId, commandAlias, s.sessionConnectionString, s.appConnectionString);
-    control.SetPermission(*rights);
+    control.SetPermission(std::move(rights));  // the control keeps it for its employee scope
     control.SetPrintCommand(0, s.appPath, s.loginName, s.password);
     control.SetParentForm(this);
 }

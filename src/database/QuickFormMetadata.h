@@ -45,16 +45,16 @@ struct QuickFieldMetadata {
 // the pick routines and of the editor's SelectQuickForm (database/QuickFormPick) and the
 // print captions are all derived from it; nothing else reads these two tables.
 struct QuickFormMetadata {
-    // Which statements are sent; each use keeps the exact texts its Part gives.
+    // Which statements are sent; each use keeps its own exact texts.
     enum class Reading {
-        // The pick routines (Part 1.3): "SELECT * FROM QD8TQuickForm WHERE TQFmAlias='<a>'",
+        // The pick routines: "SELECT * FROM QD8TQuickForm WHERE TQFmAlias='<a>'",
         // then "SELECT * FROM QD8TQuickField WHERE TQFFTQFmAlias='<a>' ORDER BY TQFFSort"
         // whether or not the form row was found; inactive fields included.
         Pick,
-        // The editor's pick list (SelectQuickForm, Part 3.1): the same two statements, the
+        // The editor's pick list (SelectQuickForm): the same two statements, the
         // fields only when the form row was found.
         PickQuery,
-        // The editor's load (FillData, Part 3.1): only an active form ("... AND
+        // The editor's load (FillData): only an active form ("... AND
         // TQFMFlag1=1") and its active fields ("... AND TQFFFlag1=1 ORDER BY TQFFSort").
         Editor,
         // The form row alone, as the pick routines read it (another form's table and key

@@ -24,7 +24,7 @@ QString QuickFormPickAll(const QString& alias, const QString& appConnectionStrin
 
 // The descriptions, derived from a quick form read with QuickFormMetadata::read.
 
-// The pick routines' description (Part 1.3): Thai title and captions, the type-code
+// The pick routines' description: Thai title and captions, the type-code
 // rule (types "" until the first field that is not a NUMBER, "0" from there on), widths
 // converted to whole numbers (DbError for one that is not a number), TQFmTable as the
 // source, dialog width 10000 above 10000 twips. `inUseFilter` false is QuickFormPickAll's
@@ -32,7 +32,7 @@ QString QuickFormPickAll(const QString& alias, const QString& appConnectionStrin
 PickRequest quickFormPickRequest(const QuickFormMetadata& form, bool inUseFilter, const QString& customFilter,
     const QString& dataConnectionString);
 
-// The editor's description (SelectQuickForm3, Part 3.1): title and captions in the
+// The editor's description (SelectQuickForm3): title and captions in the
 // session language, the key list without its leading comma, type "13" for a LABELLIST
 // field and "0" for the others, TQFmView as the source, `scopeCondition` (the employee
 // types the user may see, "" for none) joined with AND, then `customFilter` after one
