@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/DateText.h"
 #include "widgets/HostedControl.h"
 
 #include <QHash>
@@ -203,6 +204,7 @@ private:
     DocumentDefinition m_definition;
     QString m_mode = QStringLiteral("VIEW");
     QString m_newKey;
+    DateLook m_dateLook;
     QString m_key;
     QString m_formFunction;
     QString m_proposed;       // the number the form proposed, "" when typed
