@@ -234,4 +234,9 @@ QString datePattern(int languageId)
     return inLanguage(languageId, "วว/ดด/ปปปป", "dd/mm/yyyy");
 }
 
+QString dateTimePattern(int languageId)
+{
+    return inLanguage(languageId, "วว/ดด/ปปปป ชช:นน", "dd/mm/yyyy hh:mm");
+}
+
 } // namespace qd8

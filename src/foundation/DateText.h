@@ -55,5 +55,7 @@ QString monthYearText(int month, int gregorianYear, const DateLook& look);
 
 // "วว/ดด/ปปปป" or "dd/mm/yyyy": how a date is typed, for hints and messages.
 QString datePattern(int languageId);
+// "วว/ดด/ปปปป ชช:นน" or "dd/mm/yyyy hh:mm".
+QString dateTimePattern(int languageId);
 
 } // namespace qd8

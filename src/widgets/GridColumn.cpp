@@ -564,7 +564,7 @@ QString GridColumn::problemText(GridInputProblem problem, int languageId)
         return (thai ? QStringLiteral("กรุณาระบุวันที่ในรูปแบบ ") : QStringLiteral("Please enter a date as ")) + datePattern(languageId);
     case GridInputProblem::NotADateTime:
         return (thai ? QStringLiteral("กรุณาระบุวันที่และเวลาในรูปแบบ ") : QStringLiteral("Please enter a date and time as "))
-            + datePattern(languageId) + (thai ? QStringLiteral(" ชช:นน") : QStringLiteral(" hh:mm"));
+            + dateTimePattern(languageId);
     case GridInputProblem::NotATime:
         return thai ? QStringLiteral("กรุณาระบุเวลาในรูปแบบ ชช:นน") : QStringLiteral("Please enter a time as hh:mm");
     case GridInputProblem::NotAColor:
