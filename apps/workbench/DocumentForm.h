@@ -22,7 +22,7 @@ class Recordset;
 struct DocumentField {
     enum class Kind {
         Text,
-        Date,    // dd/MM/yyyy, the Buddhist-era year in Thai
+        Date,    // a DateEdit: dd/MM/yyyy in the user's era
         Number,
         Money,   // exact to four decimals, shown with thousands separators
         Code,    // a key of another table, F2 picks it

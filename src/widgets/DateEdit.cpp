@@ -57,7 +57,7 @@ void DateEdit::setDateLook(const DateLook& look)
     const QDate d = date();
     m_look = look;
     setPlaceholderText(datePattern(look.languageId));
-    setToolTip(inLanguage(look.languageId, "วันที่ วว/ดด/ปปปป (F4: ปฏิทิน)", "Date dd/mm/yyyy (F4: calendar)"));
+    setToolTip(inLanguage(look.languageId, "วันที่ %1 (F4: ปฏิทิน)", "Date %1 (F4: calendar)").arg(datePattern(look.languageId)));
     if (d.isValid())
         setDate(d);
 }
