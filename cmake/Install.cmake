@@ -9,7 +9,7 @@ install(TARGETS QD8Designer2 EXPORT QD8Designer2Targets
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/QD8Designer2)
 install(TARGETS qd8-admin qd8-workbench RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 
-foreach(layer foundation database widgets navigation editors documents)
+foreach(layer foundation database widgets pickers navigation editors documents)
   install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/${layer}
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/QD8Designer2
     FILES_MATCHING PATTERN "*.h")

@@ -10,6 +10,7 @@
 #include "foundation/Services.h"
 #include "foundation/TransactionGuard.h"
 #include "foundation/Values.h"
+#include "widgets/DateEdit.h"
 
 #include <QCheckBox>
 #include <QDate>
@@ -27,32 +28,7 @@ namespace qd8 {
 
 namespace {
 
-constexpr int BuddhistEraOffset = 543;
 constexpr int NumberDigits = 7;  // document numbers: the prefix and seven digits
-
-QString shownDate(const QDate& date, int languageId)
-{
-    if (!date.isValid())
-        return {};
-    const int year = languageId == 0 ? date.year() + BuddhistEraOffset : date.year();
-    return QStringLiteral("%1/%2/%3")
-        .arg(date.day(), 2, 10, QLatin1Char('0'))
-        .arg(date.month(), 2, 10, QLatin1Char('0'))
-        .arg(year, 4, 10, QLatin1Char('0'));
-}
-
-// dd/MM/yyyy as a clerk types it (a Buddhist-era year above 2400 goes back 543 years) or
-// yyyy-MM-dd; an invalid date for anything else.
-QDate typedDate(const QString& text)
-{
-    const QString t = text.trimmed();
-    QDate date = QDate::fromString(t, QStringLiteral("d/M/yyyy"));
-    if (!date.isValid())
-        date = QDate::fromString(t, Qt::ISODate);
-    if (date.isValid() && date.year() > 2400)
-        date = date.addYears(-BuddhistEraOffset);
-    return date;
-}
 
 QString withoutSeparators(const QString& text)
 {
@@ -285,7 +261,7 @@ void DocumentForm::addEntry(const DocumentField& field)
         return;
     }
     entry.label = new QLabel(this);
-    entry.box = new QLineEdit(this);
+    entry.box = field.kind == DocumentField::Kind::Date ? new DateEdit(this) : new QLineEdit(this);
     entry.box->setObjectName(field.field);
     entry.label->setBuddy(entry.box);
     entry.box->installEventFilter(this);
@@ -293,8 +269,6 @@ void DocumentForm::addEntry(const DocumentField& field)
     entry.box->setMinimumWidth(wide ? 360 : 160);
     if (field.kind == DocumentField::Kind::Number || field.kind == DocumentField::Kind::Money)
         entry.box->setAlignment(Qt::AlignRight);
-    if (field.kind == DocumentField::Kind::Date)
-        entry.box->setPlaceholderText(QStringLiteral("dd/mm/yyyy"));
     if (field.kind == DocumentField::Kind::Code) {
         entry.name = new QLabel(this);
         entry.name->setObjectName(field.field + QStringLiteral("Name"));
@@ -331,7 +305,10 @@ void DocumentForm::retranslate()
     m_save->setAccessibleName(bilingual("บันทึก", "Save"));
     m_close->setText(bilingual("ปิด (Esc)", "Close (Esc)"));
     m_close->setAccessibleName(bilingual("ปิด", "Close"));
+    m_dateLook = DbSessionFunctions::userDateLook(UserID(), LanguageID(), DataConnectionString());
     for (Entry& entry : m_entries) {
+        if (auto* date = qobject_cast<DateEdit*>(entry.box))
+            date->setDateLook(m_dateLook);
         const QString caption = shownCaption(entry.field);
         if (entry.check) {
             entry.check->setText(caption);
@@ -479,7 +456,7 @@ void DocumentForm::startNew()
     const QString branch = clientObject() ? clientObject()->branchCode() : QString();
     for (Entry& entry : m_entries) {
         if (entry.field.initial == DocumentField::Initial::Today)
-            entry.box->setText(shownDate(QDate::currentDate(), LanguageID()));
+            entry.box->setText(dateText(QDate::currentDate(), m_dateLook.era));
         else if (entry.field.initial == DocumentField::Initial::UserBranch)
             entry.box->setText(branch);
         else if (entry.field.initial == DocumentField::Initial::UserProject)
@@ -553,7 +530,7 @@ void DocumentForm::showRow(const Recordset& rs)
         }
         switch (entry.field.kind) {
         case DocumentField::Kind::Date:
-            entry.box->setText(shownDate(value.toDate(), LanguageID()));
+            entry.box->setText(dateText(value.toDate(), m_dateLook.era));
             break;
         case DocumentField::Kind::Money:
             entry.box->setText(value.isNull() ? QString() : shownMoney(toCurrency(value)));
@@ -700,8 +677,8 @@ QString DocumentForm::problem() const
         const bool composed = entry.field.kind == DocumentField::Kind::Code || entry.field.field == m_definition.keyField;
         if (composed && typed.contains(QLatin1Char('\'')))
             return bilingual("%1 ต้องไม่มีเครื่องหมาย '", "%1 must not contain '").arg(caption);
-        if (entry.field.kind == DocumentField::Kind::Date && !typedDate(typed).isValid())
-            return bilingual("%1: วันที่ไม่ถูกต้อง (วว/ดด/ปปปป) %2", "%1: not a date (dd/mm/yyyy) %2").arg(caption, typed);
+        if (entry.field.kind == DocumentField::Kind::Date && !parseDate(typed, m_dateLook.era))
+            return bilingual("%1: วันที่ไม่ถูกต้อง (%2) %3", "%1: not a date (%2) %3").arg(caption, datePattern(LanguageID()), typed);
         if (entry.field.kind == DocumentField::Kind::Number && !typedNumber(typed))
             return bilingual("%1: ตัวเลขไม่ถูกต้อง %2", "%1: not a number %2").arg(caption, typed);
         if (entry.field.kind == DocumentField::Kind::Money && !Currency::parse(withoutSeparators(typed)))
@@ -734,7 +711,7 @@ QVariant DocumentForm::storedValue(const Entry& entry) const
         return {};
     switch (entry.field.kind) {
     case DocumentField::Kind::Date:
-        return typedDate(typed);
+        return parseDate(typed, m_dateLook.era).value_or(QDate());
     case DocumentField::Kind::Number:
         return typedNumber(typed).value_or(QVariant());
     case DocumentField::Kind::Money:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/DateText.h"
 #include "widgets/HostedControl.h"
 
 #include <QHash>
@@ -21,7 +22,7 @@ class Recordset;
 struct DocumentField {
     enum class Kind {
         Text,
-        Date,    // dd/MM/yyyy, the Buddhist-era year in Thai
+        Date,    // a DateEdit: dd/MM/yyyy in the user's era
         Number,
         Money,   // exact to four decimals, shown with thousands separators
         Code,    // a key of another table, F2 picks it
@@ -203,6 +204,7 @@ private:
     DocumentDefinition m_definition;
     QString m_mode = QStringLiteral("VIEW");
     QString m_newKey;
+    DateLook m_dateLook;
     QString m_key;
     QString m_formFunction;
     QString m_proposed;       // the number the form proposed, "" when typed

@@ -17,7 +17,21 @@
 
 namespace qd8 {
 
-ListPrinter::ListPrinter(const QString& title, const QString& sql, const QString& captionList, const QString& connectionString)
+namespace {
+
+QString cellText(const QVariant& value, const DateLook& look)
+{
+    if (value.typeId() == QMetaType::QDate)
+        return dateText(value.toDate(), look.era);
+    if (value.typeId() == QMetaType::QDateTime)
+        return dateTimeText(value.toDateTime(), look.era);
+    return text(value);
+}
+
+} // namespace
+
+ListPrinter::ListPrinter(const QString& title, const QString& sql, const QString& captionList, const QString& connectionString,
+    const DateLook& look)
     : m_title(title)
 {
     QString body;
@@ -45,7 +59,7 @@ ListPrinter::ListPrinter(const QString& title, const QString& sql, const QString
         for (; !rs.eof(); rs.moveNext(), ++m_rows) {
             body += QStringLiteral("<tr>");
             for (int column = 0; column < rs.fieldCount() && column < captions.size(); ++column)
-                body += QStringLiteral("<td>%1</td>").arg(text(rs.field(column)).toHtmlEscaped());
+                body += QStringLiteral("<td>%1</td>").arg(cellText(rs.field(column), look).toHtmlEscaped());
             body += QStringLiteral("</tr>");
         }
     } catch (const DbError& error) {
@@ -53,7 +67,7 @@ ListPrinter::ListPrinter(const QString& title, const QString& sql, const QString
     }
     m_html = QStringLiteral("<html><body><h2>%1</h2><p>%2 — %3</p>"
                             "<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\">%4</table></body></html>")
-                 .arg(m_title.toHtmlEscaped(), QDateTime::currentDateTime().toString(QStringLiteral("dd/MM/yyyy HH:mm")))
+                 .arg(m_title.toHtmlEscaped(), dateTimeText(QDateTime::currentDateTime(), look.era))
                  .arg(m_rows)
                  .arg(body);
 }

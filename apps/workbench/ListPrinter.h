@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/DateText.h"
+
 #include <QString>
 #include <QWidget>
 
@@ -10,10 +12,11 @@ namespace qd8 {
 
 // Prints a list the way the host prints a control's own list (PrintAutoClick): the rows of
 // a SELECT under the caption list, as a table with a title and the date, previewed before
-// printing and exportable as PDF.
+// printing and exportable as PDF. Dates print in the user's era.
 class ListPrinter {
 public:
-    ListPrinter(const QString& title, const QString& sql, const QString& captionList, const QString& connectionString);
+    ListPrinter(const QString& title, const QString& sql, const QString& captionList, const QString& connectionString,
+        const DateLook& look);
 
     // The document as HTML; a statement that fails prints its error instead of rows.
     QString html() const;

@@ -477,7 +477,8 @@ void WorkbenchWindow::onPrintList(const QString& sqlStatement, int, const QStrin
 {
     QWidget* form = formOf(sender());
     const QString title = form ? m_tabs->tabText(m_tabs->indexOf(form)) : windowTitle();
-    ListPrinter(title, sqlStatement, captionList, m_session.sessionConnectionString).preview(this);
+    const DateLook look = DbSessionFunctions::userDateLook(m_session.userId, m_session.languageId, m_session.dataConnectionString);
+    ListPrinter(title, sqlStatement, captionList, m_session.sessionConnectionString, look).preview(this);
     showStatus(text("ตัวอย่างก่อนพิมพ์: %1", "Print preview: %1").arg(title));
 }
 

@@ -46,6 +46,17 @@ void DbSessionFunctions::storeUserSetting(qint32 userId, const QString& name, co
     rs.update();
 }
 
+DateLook DbSessionFunctions::userDateLook(qint32 userId, int languageId, const QString& connectionString)
+{
+    if (connectionString.isEmpty())
+        return DateLook::forLanguage(languageId);
+    try {
+        return DateLook::forLanguage(languageId, userSettingText(userId, QStringLiteral("DateEra"), connectionString));
+    } catch (const DbError&) {
+        return DateLook::forLanguage(languageId);  // dates still show, in the language's era
+    }
+}
+
 double DbSessionFunctions::GetUserSetting(qint32 userId, const QString& name, const QString& connectionString)
 {
     if (connectionString.isEmpty())

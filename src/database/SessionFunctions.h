@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/DateText.h"
+
 #include <QString>
 
 namespace qd8 {
@@ -27,6 +29,10 @@ public:
 
     // The setting as stored (user first, then user 0); null when neither has it.
     static QString userSettingText(qint32 userId, const QString& name, const QString& connectionString);
+    // How the user sees dates: the language's era unless the user's "DateEra" setting
+    // chooses one (1 Buddhist, 2 Gregorian). The language's era when the setting cannot be
+    // read (no connection string, a database failure).
+    static DateLook userDateLook(qint32 userId, int languageId, const QString& connectionString);
     // Stores the user's own value of a setting (the template user 0 is not touched).
     static void storeUserSetting(qint32 userId, const QString& name, const QString& value, const QString& connectionString);
 };

@@ -2,6 +2,7 @@
 
 #include "database/DataObject.h"
 #include "foundation/Connection.h"
+#include "foundation/DateText.h"
 #include "foundation/DbError.h"
 #include "foundation/Recordset.h"
 #include "foundation/Sql.h"
@@ -46,28 +47,6 @@ const QHash<QString, OptionPlaceholder>& optionPlaceholders()
         return table;
     }();
     return placeholders;
-}
-
-// yyyy-MM-dd or dd/MM/yyyy; a year past 2400 is a Buddhist-era year.
-QDate dateFromText(const QString& text)
-{
-    static const QRegularExpression iso(QStringLiteral(R"(^(\d{4})-(\d{1,2})-(\d{1,2})$)"));
-    static const QRegularExpression dayFirst(QStringLiteral(R"(^(\d{1,2})/(\d{1,2})/(\d{4})$)"));
-    int year = 0, month = 0, day = 0;
-    if (const auto m = iso.match(text); m.hasMatch()) {
-        year = m.captured(1).toInt();
-        month = m.captured(2).toInt();
-        day = m.captured(3).toInt();
-    } else if (const auto m = dayFirst.match(text); m.hasMatch()) {
-        year = m.captured(3).toInt();
-        month = m.captured(2).toInt();
-        day = m.captured(1).toInt();
-    } else {
-        return {};
-    }
-    if (year > 2400)
-        year -= 543;
-    return QDate(year, month, day);
 }
 
 } // namespace
@@ -117,7 +96,8 @@ QDate CaptionPlaceholders::ReplaceDateValue(const QString& text)
         const qint64 days = m.captured(2).toLongLong();
         return m_today.addDays(m.captured(1) == QLatin1String("-") ? -days : days);
     }
-    return dateFromText(expanded);
+    // Option values are written by people, in either era.
+    return parseDate(expanded, DateEra::Gregorian, m_today).value_or(QDate());
 }
 
 std::optional<QString> CaptionPlaceholders::placeholderValue(const QString& name)

@@ -3,6 +3,7 @@
 #include "database/DataObject.h"
 #include "foundation/CommaList.h"
 #include "foundation/Currency.h"
+#include "foundation/DateText.h"
 #include "foundation/DbError.h"
 #include "foundation/Values.h"
 #include "widgets/DataView.h"
@@ -26,17 +27,13 @@ constexpr int RequiredElements = 4;
 
 const QString AcknowledgeField = QStringLiteral("TPO2Acknowledge");
 
-// yyyy-MM-dd (a time may follow, as in a timestamp read as text) or dd/MM/yyyy.
+// A date written as text, as the date module reads it; a time may follow, as in a
+// timestamp read as text.
 QDate dateFromText(const QString& text)
 {
-    static const QRegularExpression iso(QStringLiteral(R"(^(\d{4})-(\d{1,2})-(\d{1,2})(?:[ T].*)?$)"));
-    static const QRegularExpression dayFirst(QStringLiteral(R"(^(\d{1,2})/(\d{1,2})/(\d{4})$)"));
+    static const QRegularExpression timeStart(QStringLiteral("[ T]"));
     const QString trimmed = text.trimmed();
-    if (const auto m = iso.match(trimmed); m.hasMatch())
-        return QDate(m.captured(1).toInt(), m.captured(2).toInt(), m.captured(3).toInt());
-    if (const auto m = dayFirst.match(trimmed); m.hasMatch())
-        return QDate(m.captured(3).toInt(), m.captured(2).toInt(), m.captured(1).toInt());
-    return {};
+    return parseDate(trimmed.left(trimmed.indexOf(timeStart)), DateEra::Gregorian).value_or(QDate());
 }
 
 // The date a row value holds: a date column, or text that reads as one (SQLite hands

@@ -1,9 +1,13 @@
 #pragma once
 
+#include "foundation/DateText.h"
 #include "foundation/PickRequest.h"
 
+#include <QDateTime>
+#include <QPoint>
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 namespace qd8 {
 
@@ -29,6 +33,18 @@ public:
     // A choice among a few fixed entries (a theme, a language): the index chosen, or -1
     // when the user cancelled. `current` is the entry selected when the choice opens.
     virtual int choose(const QString& title, const QStringList& entries, int current) = 0;
+
+    // The date pickers open at `position` (screen pixels, the picker's top left corner)
+    // and stay on the screen; dates show in `look`.
+    // A day of the one-month calendar; an invalid date when the user cancelled.
+    virtual QDate pickDate(QDate initial, QPoint position, const DateLook& look) = 0;
+    // A day and a time of the date-time view; invalid when cancelled.
+    virtual QDateTime pickDateTime(const QDateTime& initial, QPoint position, const DateLook& look) = 0;
+    // A month of the month/year view, as its first day; invalid when cancelled. `style` is
+    // the view's (MonthYearView::Style).
+    virtual QDate pickMonth(QDate initial, int style, QPoint position, const DateLook& look) = 0;
+    // Several lines of text; nothing when the user cancelled.
+    virtual std::optional<QString> inputMultiLine(const QString& title, const QString& text, int languageId) = 0;
 };
 
 class ShellService {

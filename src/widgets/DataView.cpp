@@ -491,6 +491,11 @@ void DataView::setRowColour(std::function<QColor(const DataRow&)> colour)
     d->model->setRowColour(std::move(colour));
 }
 
+void DataView::setDateLook(const DateLook& look)
+{
+    d->model->setDateLook(look);
+}
+
 void DataView::setButtonVisible(Button button, bool visible)
 {
     d->buttons[size_t(button)]->setVisible(visible);

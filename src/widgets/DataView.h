@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/DateText.h"
 #include "foundation/Sql.h"
 
 #include <QColor>
@@ -73,6 +74,8 @@ public:
 
     // Called for every painted row; an invalid colour leaves the row uncoloured.
     void setRowColour(std::function<QColor(const DataRow&)> colour);
+    // Dates in the user's era (DbSessionFunctions::userDateLook); Gregorian until set.
+    void setDateLook(const DateLook& look);
 
     void setButtonVisible(Button button, bool visible);
     void setButtonCaption(Button button, const QString& caption);

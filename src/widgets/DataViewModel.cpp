@@ -26,8 +26,6 @@ private:
     int m_row;
 };
 
-const QString DateFormat = QStringLiteral("dd/MM/yyyy");
-const QString DateTimeFormat = QStringLiteral("dd/MM/yyyy HH:mm");
 
 std::optional<double> numberOf(const QVariant& v)
 {
@@ -264,7 +262,7 @@ QString DataViewModel::shownText(const QVariant& value, Type type) const
         break;
     case Type::Date:
         if (const QDate date = dateOf(value); date.isValid())
-            return date.toString(DateFormat);
+            return dateText(date, m_look.era);
         break;
     case Type::YesNo:
         return isYes(value) ? QStringLiteral("✓") : QString();
@@ -272,10 +270,19 @@ QString DataViewModel::shownText(const QVariant& value, Type type) const
         break;
     }
     if (value.typeId() == QMetaType::QDate)
-        return value.toDate().toString(DateFormat);
+        return dateText(value.toDate(), m_look.era);
     if (value.typeId() == QMetaType::QDateTime)
-        return value.toDateTime().toString(DateTimeFormat);
+        return dateTimeText(value.toDateTime(), m_look.era);
     return text(value);
+}
+
+void DataViewModel::setDateLook(const DateLook& look)
+{
+    if (m_look == look)
+        return;
+    m_look = look;
+    if (rowCount() > 0 && columnCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }
 
 QColor DataViewModel::rowColour(int row) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/Cursor.h"
+#include "foundation/DateText.h"
 
 #include <QAbstractTableModel>
 #include <QColor>
@@ -19,8 +20,9 @@ class DataRow;
 // cursor's compact store; a cell is turned into text only when the view paints it.
 //
 // Type codes: "0" text; "1" whole number and "2" number with two decimals, both right-aligned
-// with thousands separators; "3" date shown dd/MM/yyyy (Gregorian); "4" yes/no shown as a
-// check mark; any other code is text. Dates show dd/MM/yyyy whatever their code.
+// with thousands separators; "3" date shown dd/MM/yyyy; "4" yes/no shown as a check mark; any
+// other code is text. Dates show dd/MM/yyyy (with HH:mm for a date-time) whatever their code,
+// the year in the era of setDateLook (Gregorian until a control hands the user's).
 class DataViewModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -47,6 +49,7 @@ public:
     const QList<Column>& columns() const { return m_columns; }
     void setKeyFields(const QStringList& fields);
     void setRowColour(std::function<QColor(const DataRow&)> colour);
+    void setDateLook(const DateLook& look);
 
     // Runs the SELECT and shows its first rows. Throws DbError when it fails or lacks a
     // listed field; the model then has no rows.
@@ -94,6 +97,7 @@ private:
     QList<Column> m_columns;
     QStringList m_keyFields;
     std::function<QColor(const DataRow&)> m_colour;
+    DateLook m_look = DateLook::forLanguage(1);
     Cursor m_cursor;
     QHash<QString, int> m_fieldColumns;  // case-folded names → cursor column
     int m_shown = 0;

@@ -1,7 +1,12 @@
 #include "widgets/DefaultServices.h"
 
 #include "foundation/SessionContext.h"
+#include "widgets/DateTimeView.h"
+#include "widgets/MonthCalendar.h"
+#include "widgets/MonthYearView.h"
 #include "widgets/PickListDialog.h"
+#include "widgets/PickerPopup.h"
+#include "widgets/frmInputMultiLine.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -54,6 +59,64 @@ int DialogPickerService::choose(const QString& title, const QStringList& entries
     bool ok = false;
     const QString chosen = QInputDialog::getItem(activeWindow(), title, title, entries, qBound(0, current, int(entries.size()) - 1), false, &ok);
     return ok ? int(entries.indexOf(chosen)) : -1;
+}
+
+namespace {
+
+// Shows a view in a picker popup at `position` until it picks or gives up; true when it picked.
+template <typename View, typename Picked>
+bool runPicker(View* view, QPoint position, Picked pickedSignal)
+{
+    PickerPopup popup(view, activeWindow());
+    QObject::connect(view, pickedSignal, &popup, &QDialog::accept);
+    QObject::connect(view, &View::cancelled, &popup, &QDialog::reject);
+    popup.placeAt(position);
+    view->setFocus();
+    return popup.exec() == QDialog::Accepted;
+}
+
+} // namespace
+
+QDate DialogPickerService::pickDate(QDate initial, QPoint position, const DateLook& look)
+{
+    auto* view = new MonthCalendar;
+    view->setDateLook(look);
+    view->setSelectedDate(initial.isValid() ? initial : QDate::currentDate());
+    QDate picked;
+    QObject::connect(view, &MonthCalendar::picked, view, [&picked](QDate d) { picked = d; });
+    return runPicker(view, position, &MonthCalendar::picked) ? picked : QDate();
+}
+
+QDateTime DialogPickerService::pickDateTime(const QDateTime& initial, QPoint position, const DateLook& look)
+{
+    auto* view = new DateTimeView;
+    view->setDateLook(look);
+    view->setDateTime(initial.isValid() ? initial : QDateTime::currentDateTime());
+    QDateTime picked;
+    QObject::connect(view, &DateTimeView::picked, view, [&picked](const QDateTime& dt) { picked = dt; });
+    return runPicker(view, position, &DateTimeView::picked) ? picked : QDateTime();
+}
+
+QDate DialogPickerService::pickMonth(QDate initial, int style, QPoint position, const DateLook& look)
+{
+    auto* view = new MonthYearView;
+    view->setDateLook(look);
+    view->setStyle(style);
+    const QDate start = initial.isValid() ? initial : QDate::currentDate();
+    view->setMonthYear(start.month(), start.year());
+    QDate picked;
+    QObject::connect(view, &MonthYearView::picked, view, [&picked](int m, int y) { picked = QDate(y, m, 1); });
+    return runPicker(view, position, &MonthYearView::picked) ? picked : QDate();
+}
+
+std::optional<QString> DialogPickerService::inputMultiLine(const QString& title, const QString& text, int languageId)
+{
+    frmInputMultiLine form(languageId, activeWindow());
+    form.setWindowTitle(title);
+    form.setText(text);
+    if (form.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return form.result();
 }
 
 // The suite names Windows programs; this desktop runs its own equivalents, and a folder

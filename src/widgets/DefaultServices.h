@@ -18,6 +18,10 @@ class DialogPickerService : public PickerService {
 public:
     QString pick(const PickRequest& request) override;
     int choose(const QString& title, const QStringList& entries, int current) override;
+    QDate pickDate(QDate initial, QPoint position, const DateLook& look) override;
+    QDateTime pickDateTime(const QDateTime& initial, QPoint position, const DateLook& look) override;
+    QDate pickMonth(QDate initial, int style, QPoint position, const DateLook& look) override;
+    std::optional<QString> inputMultiLine(const QString& title, const QString& text, int languageId) override;
 };
 
 class QtShellService : public ShellService {

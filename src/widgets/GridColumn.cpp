@@ -2,6 +2,7 @@
 
 #include "foundation/CommaList.h"
 #include "foundation/Currency.h"
+#include "foundation/DateText.h"
 #include "foundation/Values.h"
 
 #include <QDate>
@@ -15,10 +16,6 @@
 namespace qd8 {
 
 namespace {
-
-// Years from 2400 on are Buddhist-era years (Christian era + 543).
-constexpr int BuddhistEraOffset = 543;
-constexpr int BuddhistEraFrom = 2400;
 
 struct TypeWord {
     const char* word;
@@ -163,73 +160,10 @@ QString numberText(const QVariant& value)
     return text;
 }
 
-int fromBuddhistEra(int year)
+// Stored dates are ISO with four-digit years: no era to settle.
+std::optional<QDateTime> storedDateTimeOf(const QString& stored)
 {
-    return year >= BuddhistEraFrom ? year - BuddhistEraOffset : year;
-}
-
-std::optional<QDate> parseDate(QStringView text)
-{
-    static const QRegularExpression iso(QStringLiteral("^(\\d{4})-(\\d{1,2})-(\\d{1,2})$"));
-    static const QRegularExpression dmy(QStringLiteral("^(\\d{1,2})[/.-](\\d{1,2})[/.-](\\d{4})$"));
-    static const QRegularExpression packed(QStringLiteral("^(\\d{2})(\\d{2})(\\d{4})$"));
-    const QString t = text.trimmed().toString();
-    int y = 0, m = 0, d = 0;
-    if (auto match = iso.match(t); match.hasMatch()) {
-        y = match.captured(1).toInt();
-        m = match.captured(2).toInt();
-        d = match.captured(3).toInt();
-    } else if (match = dmy.match(t); match.hasMatch()) {
-        d = match.captured(1).toInt();
-        m = match.captured(2).toInt();
-        y = match.captured(3).toInt();
-    } else if (match = packed.match(t); match.hasMatch()) {
-        d = match.captured(1).toInt();
-        m = match.captured(2).toInt();
-        y = match.captured(3).toInt();
-    } else {
-        return std::nullopt;
-    }
-    const QDate date(fromBuddhistEra(y), m, d);
-    if (!date.isValid())
-        return std::nullopt;
-    return date;
-}
-
-std::optional<QTime> parseTime(QStringView text)
-{
-    static const QRegularExpression separated(QStringLiteral("^(\\d{1,2})[:.](\\d{2})(?:[:.](\\d{2}))?$"));
-    static const QRegularExpression packed(QStringLiteral("^(\\d{2})(\\d{2})$"));
-    const QString t = text.trimmed().toString();
-    QRegularExpressionMatch match = separated.match(t);
-    if (!match.hasMatch())
-        match = packed.match(t);
-    if (!match.hasMatch())
-        return std::nullopt;
-    const QTime time(match.captured(1).toInt(), match.captured(2).toInt(),
-                     match.lastCapturedIndex() >= 3 ? match.captured(3).toInt() : 0);
-    if (!time.isValid())
-        return std::nullopt;
-    return time;
-}
-
-std::optional<QDateTime> parseDateTime(QStringView text)
-{
-    const QString t = text.trimmed().toString();
-    qsizetype split = t.indexOf(u' ');
-    if (split < 0)
-        split = t.indexOf(u'T');
-    const auto date = parseDate(split < 0 ? QStringView(t) : QStringView(t).left(split));
-    if (!date)
-        return std::nullopt;
-    QTime time(0, 0);
-    if (split >= 0) {
-        const auto parsed = parseTime(QStringView(t).mid(split + 1));
-        if (!parsed)
-            return std::nullopt;
-        time = *parsed;
-    }
-    return QDateTime(*date, time);
+    return parseDateTime(stored, DateEra::Gregorian);
 }
 
 QString storedDate(QDate d) { return d.toString(Qt::ISODate); }
@@ -237,15 +171,6 @@ QString storedTime(QTime t) { return t.toString(QStringLiteral("HH:mm:ss")); }
 QString storedDateTime(const QDateTime& dt)
 {
     return storedDate(dt.date()) + u' ' + storedTime(dt.time());
-}
-
-QString shownDate(QDate d, int languageId)
-{
-    const int year = languageId == 0 ? d.year() + BuddhistEraOffset : d.year();
-    return QStringLiteral("%1/%2/%3")
-        .arg(d.day(), 2, 10, QLatin1Char('0'))
-        .arg(d.month(), 2, 10, QLatin1Char('0'))
-        .arg(year, 4, 10, QLatin1Char('0'));
 }
 
 bool isTrue(const QString& text)
@@ -369,7 +294,7 @@ QString GridColumn::labelOf(const QString& code) const
     return code;
 }
 
-QString GridColumn::displayText(const QString& stored, int languageId) const
+QString GridColumn::displayText(const QString& stored, DateEra era) const
 {
     switch (type) {
     case GridColumnType::Text:
@@ -382,11 +307,11 @@ QString GridColumn::displayText(const QString& stored, int languageId) const
         return stored;
     case GridColumnType::Date:
         if (const QDate d = QDate::fromString(stored, Qt::ISODate); d.isValid())
-            return shownDate(d, languageId);
+            return dateText(d, era);
         return stored;
     case GridColumnType::DateTime:
-        if (const auto dt = parseDateTime(stored))
-            return shownDate(dt->date(), languageId) + u' ' + dt->time().toString(QStringLiteral("HH:mm"));
+        if (const auto dt = storedDateTimeOf(stored))
+            return dateTimeText(*dt, era);
         return stored;
     case GridColumnType::Time:
         if (const auto t = parseTime(stored))
@@ -411,13 +336,13 @@ QString GridColumn::displayText(const QString& stored, int languageId) const
     return stored;
 }
 
-QString GridColumn::editText(const QString& stored, int languageId) const
+QString GridColumn::editText(const QString& stored, DateEra era) const
 {
     if (type == GridColumnType::Number || type == GridColumnType::AbsNumber) {
         if (const auto d = parseDecimal(stored, false))
             return formatted(*d, decimals, false);
     }
-    return displayText(stored, languageId);
+    return displayText(stored, era);
 }
 
 QVariant GridColumn::value(const QString& stored) const
@@ -455,7 +380,7 @@ QVariant GridColumn::value(const QString& stored) const
             return d;
         return stored;
     case GridColumnType::DateTime:
-        if (const auto dt = parseDateTime(stored))
+        if (const auto dt = storedDateTimeOf(stored))
             return *dt;
         return stored;
     case GridColumnType::Time:
@@ -492,19 +417,19 @@ QString GridColumn::storedFromValue(const QVariant& value) const
             return storedDate(value.toDate());
         if (value.typeId() == QMetaType::QDateTime)
             return storedDate(value.toDateTime().date());
-        return storedFromText(qd8::text(value));
+        return storedFromText(qd8::text(value), DateEra::Gregorian);
     case GridColumnType::DateTime:
         if (value.typeId() == QMetaType::QDateTime)
             return storedDateTime(value.toDateTime());
         if (value.typeId() == QMetaType::QDate)
             return storedDateTime(QDateTime(value.toDate(), QTime(0, 0)));
-        return storedFromText(qd8::text(value));
+        return storedFromText(qd8::text(value), DateEra::Gregorian);
     case GridColumnType::Time:
         if (value.typeId() == QMetaType::QTime)
             return storedTime(value.toTime());
         if (value.typeId() == QMetaType::QDateTime)
             return storedTime(value.toDateTime().time());
-        return storedFromText(qd8::text(value));
+        return storedFromText(qd8::text(value), DateEra::Gregorian);
     case GridColumnType::LabelList: {
         const QString code = qd8::text(value);
         for (const GridLabel& l : labels) {
@@ -518,13 +443,13 @@ QString GridColumn::storedFromValue(const QVariant& value) const
         return code;
     }
     case GridColumnType::Color:
-        return storedFromText(qd8::text(value));
+        return storedFromText(qd8::text(value), DateEra::Gregorian);
     default:
         return qd8::text(value);
     }
 }
 
-QString GridColumn::storedFromText(const QString& text) const
+QString GridColumn::storedFromText(const QString& text, DateEra era) const
 {
     switch (type) {
     case GridColumnType::Text:
@@ -551,13 +476,13 @@ QString GridColumn::storedFromText(const QString& text) const
             return canonical(*d);
         return text;
     case GridColumnType::Date:
-        if (const auto d = parseDate(text))
+        if (const auto d = parseDate(text, era))
             return storedDate(*d);
-        if (const auto dt = parseDateTime(text))
+        if (const auto dt = parseDateTime(text, era))
             return storedDate(dt->date());
         return text;
     case GridColumnType::DateTime:
-        if (const auto dt = parseDateTime(text))
+        if (const auto dt = parseDateTime(text, era))
             return storedDateTime(*dt);
         return text;
     case GridColumnType::Time:
@@ -573,10 +498,10 @@ QString GridColumn::storedFromText(const QString& text) const
     }
 }
 
-GridInputProblem GridColumn::parseInput(const QString& text, QString& stored) const
+GridInputProblem GridColumn::parseInput(const QString& text, QString& stored, DateEra era) const
 {
     if (isCheck() || type == GridColumnType::Text || type == GridColumnType::LabelList) {
-        stored = storedFromText(text);
+        stored = storedFromText(text, era);
         return GridInputProblem::None;
     }
     if (text.trimmed().isEmpty()) {
@@ -596,13 +521,13 @@ GridInputProblem GridColumn::parseInput(const QString& text, QString& stored) co
         return GridInputProblem::None;
     }
     case GridColumnType::Date:
-        if (const auto d = parseDate(text)) {
+        if (const auto d = parseDate(text, era)) {
             stored = storedDate(*d);
             return GridInputProblem::None;
         }
         return GridInputProblem::NotADate;
     case GridColumnType::DateTime:
-        if (const auto dt = parseDateTime(text)) {
+        if (const auto dt = parseDateTime(text, era)) {
             stored = storedDateTime(*dt);
             return GridInputProblem::None;
         }
@@ -636,10 +561,10 @@ QString GridColumn::problemText(GridInputProblem problem, int languageId)
     case GridInputProblem::Negative:
         return thai ? QStringLiteral("กรุณาระบุตัวเลขที่ไม่ติดลบ") : QStringLiteral("Please enter a number that is not negative");
     case GridInputProblem::NotADate:
-        return thai ? QStringLiteral("กรุณาระบุวันที่ในรูปแบบ วว/ดด/ปปปป") : QStringLiteral("Please enter a date as dd/mm/yyyy");
+        return (thai ? QStringLiteral("กรุณาระบุวันที่ในรูปแบบ ") : QStringLiteral("Please enter a date as ")) + datePattern(languageId);
     case GridInputProblem::NotADateTime:
-        return thai ? QStringLiteral("กรุณาระบุวันที่และเวลาในรูปแบบ วว/ดด/ปปปป ชช:นน")
-                    : QStringLiteral("Please enter a date and time as dd/mm/yyyy hh:mm");
+        return (thai ? QStringLiteral("กรุณาระบุวันที่และเวลาในรูปแบบ ") : QStringLiteral("Please enter a date and time as "))
+            + dateTimePattern(languageId);
     case GridInputProblem::NotATime:
         return thai ? QStringLiteral("กรุณาระบุเวลาในรูปแบบ ชช:นน") : QStringLiteral("Please enter a time as hh:mm");
     case GridInputProblem::NotAColor:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/DateText.h"
+
 #include <QList>
 #include <QString>
 #include <QVariant>
@@ -74,11 +76,10 @@ public:
     bool canEdit(bool newRow) const;
 
     // The text a person sees (and TextMatrix gives): numbers with their decimals and digit
-    // grouping, labels for codes, "Yes"/"No", dates as dd/MM/yyyy with the Buddhist-era year
-    // when languageId is 0 (Thai).
-    QString displayText(const QString& stored, int languageId) const;
+    // grouping, labels for codes, "Yes"/"No", dates as dd/MM/yyyy with the year in `era`.
+    QString displayText(const QString& stored, DateEra era) const;
     // The text an editor starts with: as shown, without digit grouping.
-    QString editText(const QString& stored, int languageId) const;
+    QString editText(const QString& stored, DateEra era) const;
     // The value (GetValue): text as is; a label list's code; yes/no as 1/0; whole numbers of
     // a column without decimals as qlonglong, other numbers as Currency (double beyond four
     // decimals); QDate/QDateTime/QTime; a colour number. An empty cell of any type but text
@@ -89,11 +90,12 @@ public:
     // Values that do not fit the type are kept as they are, never dropped.
     QString storedFromValue(const QVariant& value) const;
     // Stored text for a text set by code (TextMatrix): shown or stored forms both read,
-    // labels before codes. Unreadable text is kept as it is.
-    QString storedFromText(const QString& text) const;
-    // Stored text for a text the user typed: strict, numbers rounded to the decimals shown.
-    // An empty text is taken (blank checks belong to the host).
-    GridInputProblem parseInput(const QString& text, QString& stored) const;
+    // labels before codes, two-digit years in `era`. Unreadable text is kept as it is.
+    QString storedFromText(const QString& text, DateEra era) const;
+    // Stored text for a text the user typed: strict, numbers rounded to the decimals shown,
+    // dates read as DateText reads them in the era shown. An empty text is taken (blank
+    // checks belong to the host).
+    GridInputProblem parseInput(const QString& text, QString& stored, DateEra era) const;
 
     static QString problemText(GridInputProblem problem, int languageId);
     // The label of a code, or the code itself when the list does not hold it.

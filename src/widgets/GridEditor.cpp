@@ -425,6 +425,11 @@ void GridEditor::setLanguageID(int languageId)
     d->model->setLanguageId(languageId);
 }
 
+void GridEditor::setDateLook(const DateLook& look)
+{
+    d->model->setDateLook(look);
+}
+
 void GridEditor::setRowHidden(int row, bool hidden)
 {
     d->view->setRowHidden(row - 1, hidden);

@@ -65,6 +65,8 @@ public:
     // 0 Thai (dates with Buddhist-era years, Thai messages), otherwise English.
     int LanguageID() const;
     void setLanguageID(int languageId);
+    // The language with the era the user chose for dates (the "DateEra" setting).
+    void setDateLook(const DateLook& look);
 
     // Removes all columns and rows.
     Q_INVOKABLE void Clear();

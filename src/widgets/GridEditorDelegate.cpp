@@ -1,5 +1,6 @@
 #include "widgets/GridEditorDelegate.h"
 
+#include "foundation/DateText.h"
 #include "widgets/GridEditorModel.h"
 
 #include <QApplication>
@@ -20,11 +21,11 @@ const GridColumn* columnOf(const QModelIndex& index)
     return model ? &model->cellColumn(index.row(), index.column()) : nullptr;
 }
 
-QString placeholderFor(GridColumnType type)
+QString placeholderFor(GridColumnType type, int languageId)
 {
     switch (type) {
-    case GridColumnType::Date: return QStringLiteral("dd/mm/yyyy");
-    case GridColumnType::DateTime: return QStringLiteral("dd/mm/yyyy hh:mm");
+    case GridColumnType::Date: return datePattern(languageId);
+    case GridColumnType::DateTime: return dateTimePattern(languageId);
     case GridColumnType::Time: return QStringLiteral("hh:mm");
     case GridColumnType::Color: return QStringLiteral("#RRGGBB");
     default: return {};
@@ -71,7 +72,8 @@ QWidget* GridEditorDelegate::createEditor(QWidget* parent, const QStyleOptionVie
         auto* line = new QLineEdit(parent);
         line->setFrame(false);
         line->setAlignment(column->cellAlignment());
-        line->setPlaceholderText(placeholderFor(column->type));
+        const auto* model = qobject_cast<const GridEditorModel*>(index.model());
+        line->setPlaceholderText(placeholderFor(column->type, model ? model->languageId() : 0));
         if (column->type == GridColumnType::Number || column->type == GridColumnType::AbsNumber) {
             const QString pattern = column->type == GridColumnType::Number ? QStringLiteral("^-?[0-9,]*\\.?[0-9]*$")
                                                                             : QStringLiteral("^[0-9,]*\\.?[0-9]*$");

@@ -62,11 +62,11 @@ QVariant GridEditorModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         // A check box says its state by drawing it; its text is for TextMatrix and readers.
-        return col.isCheck() ? QVariant() : QVariant(col.displayText(stored, m_languageId));
+        return col.isCheck() ? QVariant() : QVariant(col.displayText(stored, m_look.era));
     case Qt::EditRole:
-        return col.editText(stored, m_languageId);
+        return col.editText(stored, m_look.era);
     case Qt::AccessibleTextRole:
-        return col.displayText(stored, m_languageId);
+        return col.displayText(stored, m_look.era);
     case ValueRole:
         return col.value(stored);
     case StoredRole:
@@ -150,9 +150,9 @@ bool GridEditorModel::setData(const QModelIndex& index, const QVariant& value, i
     } else if (role == ValueRole) {
         stored = col.storedFromValue(value);
     } else if (role == Qt::EditRole) {
-        const GridInputProblem problem = col.parseInput(value.toString(), stored);
+        const GridInputProblem problem = col.parseInput(value.toString(), stored, m_look.era);
         if (problem != GridInputProblem::None) {
-            emit valueRefused(index, GridColumn::problemText(problem, m_languageId));
+            emit valueRefused(index, GridColumn::problemText(problem, m_look.languageId));
             return false;
         }
     } else {
@@ -340,7 +340,7 @@ QString GridEditorModel::storedText(int row, int column) const
 
 QString GridEditorModel::text(int row, int column) const
 {
-    return inRange(row, column) ? cellColumn(row, column).displayText(m_rows[row].cells[column], m_languageId) : QString();
+    return inRange(row, column) ? cellColumn(row, column).displayText(m_rows[row].cells[column], m_look.era) : QString();
 }
 
 QVariant GridEditorModel::value(int row, int column) const
@@ -350,7 +350,7 @@ QVariant GridEditorModel::value(int row, int column) const
 
 bool GridEditorModel::setText(int row, int column, const QString& text)
 {
-    if (!inRange(row, column) || !store(row, column, cellColumn(row, column).storedFromText(text)))
+    if (!inRange(row, column) || !store(row, column, cellColumn(row, column).storedFromText(text, m_look.era)))
         return false;
     emit cellChangedByCode(row, column);
     return true;
@@ -396,9 +396,14 @@ void GridEditorModel::setReadOnly(bool readOnly)
 
 void GridEditorModel::setLanguageId(int languageId)
 {
-    if (m_languageId == languageId)
+    setDateLook(DateLook::forLanguage(languageId));
+}
+
+void GridEditorModel::setDateLook(const DateLook& look)
+{
+    if (m_look == look)
         return;
-    m_languageId = languageId;
+    m_look = look;
     if (!m_rows.isEmpty() && !m_columns.isEmpty())
         emit dataChanged(index(0, 0), index(int(m_rows.size()) - 1, int(m_columns.size()) - 1));
 }

@@ -91,8 +91,12 @@ public:
     void setValidator(Validator validator);
     void setReadOnly(bool readOnly);
     bool isReadOnly() const { return m_readOnly; }
+    // The language of messages; dates in its own era.
     void setLanguageId(int languageId);
-    int languageId() const { return m_languageId; }
+    int languageId() const { return m_look.languageId; }
+    // The language and the era the user chose for dates.
+    void setDateLook(const DateLook& look);
+    const DateLook& dateLook() const { return m_look; }
 
 signals:
     void cellEdited(int row, int column);
@@ -114,7 +118,7 @@ private:
     QList<Row> m_rows;
     Validator m_validator;
     bool m_readOnly = false;
-    int m_languageId = 0;
+    DateLook m_look;
 };
 
 } // namespace qd8

@@ -36,6 +36,29 @@ QString ScriptedPicker::pick(const PickRequest& request)
     return answers.isEmpty() ? QString() : answers.takeFirst();
 }
 
+QDateTime ScriptedPicker::pickDateTime(const QDateTime& initial, QPoint position, const DateLook& look)
+{
+    dateAsks.append({QStringLiteral("datetime"), initial, 0, position, look});
+    return dateAnswers.isEmpty() ? QDateTime() : dateAnswers.takeFirst();
+}
+
+QDate ScriptedPicker::pickDate(QDate initial, QPoint position, const DateLook& look)
+{
+    dateAsks.append({QStringLiteral("date"), initial.startOfDay(), 0, position, look});
+    return dateAnswers.isEmpty() ? QDate() : dateAnswers.takeFirst().date();
+}
+
+QDate ScriptedPicker::pickMonth(QDate initial, int style, QPoint position, const DateLook& look)
+{
+    dateAsks.append({QStringLiteral("month"), initial.startOfDay(), style, position, look});
+    return dateAnswers.isEmpty() ? QDate() : dateAnswers.takeFirst().date();
+}
+
+std::optional<QString> ScriptedPicker::inputMultiLine(const QString&, const QString&, int)
+{
+    return textAnswers.isEmpty() ? std::nullopt : textAnswers.takeFirst();
+}
+
 bool ScriptedShell::run(const QString& commandLine, int windowStyle)
 {
     commands << QStringLiteral("run:%1:%2").arg(commandLine).arg(windowStyle);

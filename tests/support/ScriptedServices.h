@@ -32,12 +32,34 @@ public:
     QString pick(const PickRequest& request) override;
     // Answers from `choices`; -1 (cancelled) once it is empty.
     int choose(const QString& title, const QStringList& entries, int current) override;
+    // Answer from `dateAnswers`; cancelled (invalid) once it is empty.
+    QDate pickDate(QDate initial, QPoint position, const DateLook& look) override;
+    QDateTime pickDateTime(const QDateTime& initial, QPoint position, const DateLook& look) override;
+    QDate pickMonth(QDate initial, int style, QPoint position, const DateLook& look) override;
+    // Answers from `textAnswers`; cancelled once it is empty.
+    std::optional<QString> inputMultiLine(const QString& title, const QString& text, int languageId) override;
+
+    // One date pick as asked: "date", "datetime" or "month", what it opened with, where.
+    struct DateAsk {
+        QString kind;
+        QDateTime initial;
+        int style = 0;
+        QPoint position;
+        DateLook look;
+    };
 
     QStringList answers;
     QList<PickRequest> requests;
     QList<int> choices;
     QStringList choiceTitles;
-    void reset() { answers.clear(); requests.clear(); choices.clear(); choiceTitles.clear(); }
+    QList<QDateTime> dateAnswers;
+    QList<DateAsk> dateAsks;
+    QList<std::optional<QString>> textAnswers;
+    void reset()
+    {
+        answers.clear(); requests.clear(); choices.clear(); choiceTitles.clear();
+        dateAnswers.clear(); dateAsks.clear(); textAnswers.clear();
+    }
 };
 
 class ScriptedShell : public ShellService {

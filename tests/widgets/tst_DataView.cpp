@@ -129,6 +129,8 @@ TEST_P(DataViewTest, ShowsTheListedColumnsTextConvertedOnlyForDisplay)
         EXPECT_EQ(index.data().toString(), c.text);
         EXPECT_EQ(index.data(Qt::TextAlignmentRole).value<Qt::Alignment>() & Qt::AlignHorizontal_Mask, c.alignment);
     }
+    view.setDateLook(DateLook::forLanguage(0));  // a Thai user sees Buddhist-era years
+    EXPECT_EQ(view.model()->index(3, 2).data().toString(), QStringLiteral("25/12/2569"));
 
     // The values themselves keep NULL apart from "" and keep their kinds.
     EXPECT_TRUE(view.value(2, "TDocName").isNull());

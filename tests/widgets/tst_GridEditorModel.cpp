@@ -93,7 +93,7 @@ TEST(GridColumnTypes, CellsShowTheirTypeFormatted)
         {makeColumn(GridColumnType::Color), "16711680", 0, "#0000FF"},
     };
     for (const Case& c : cases)
-        EXPECT_EQ(c.column.displayText(QString::fromUtf8(c.stored), c.language), QString::fromUtf8(c.shown))
+        EXPECT_EQ(c.column.displayText(QString::fromUtf8(c.stored), DateLook::forLanguage(c.language).era), QString::fromUtf8(c.shown))
             << GridColumn::typeWord(c.column.type).toStdString() << " " << c.stored;
 }
 
@@ -129,7 +129,7 @@ TEST(GridColumnTypes, TypedTextIsCheckedAndKeptInStoredForm)
     };
     for (const Case& c : cases) {
         QString stored;
-        EXPECT_EQ(c.column.parseInput(QString::fromUtf8(c.typed), stored), c.problem) << c.typed;
+        EXPECT_EQ(c.column.parseInput(QString::fromUtf8(c.typed), stored, DateEra::Buddhist), c.problem) << c.typed;
         if (c.problem == P::None) {
             EXPECT_EQ(stored, QString::fromUtf8(c.stored)) << c.typed;
         }
@@ -166,7 +166,7 @@ TEST(GridColumnTypes, ValuesCarryTheTypeAHostWrites)
     EXPECT_EQ(money.storedFromValue(0.1), QStringLiteral("0.1"));
     const GridColumn sex = makeColumn(GridColumnType::LabelList, 0, Sexes);
     EXPECT_EQ(sex.storedFromValue(QStringLiteral("F")), QStringLiteral("F"));
-    EXPECT_EQ(sex.storedFromText(QStringLiteral("หญิง")), QStringLiteral("F"));
+    EXPECT_EQ(sex.storedFromText(QStringLiteral("หญิง"), DateEra::Buddhist), QStringLiteral("F"));
     EXPECT_EQ(makeColumn(GridColumnType::YesNo).storedFromValue(true), QStringLiteral("1"));
     EXPECT_EQ(makeColumn(GridColumnType::DateTime).storedFromValue(QDate(2026, 1, 31)), QStringLiteral("2026-01-31 00:00:00"));
 }

@@ -302,13 +302,25 @@ TEST_P(DocumentFormTest, AddingADocumentFillsTodayAndThePickedCodes)
     Recordset project;
     project.open("SELECT TPrjName FROM QD8TProject WHERE TPrjCode='PJ02'", data);
     EXPECT_EQ(form->findChild<QLabel*>("TPRDTPrjCodeName")->text(), project.text("TPrjName"));
-    retype(box(form, "TPRDDueDate"), "31/12/2569");
+    // The due date from the calendar (F4), opened on the box's date or today.
+    scriptedPicker().dateAnswers = {QDateTime(QDate(2026, 12, 31), QTime())};
+    QTest::keyClick(box(form, "TPRDDueDate"), Qt::Key_F4);
+    ASSERT_EQ(scriptedPicker().dateAsks.size(), 1);
+    EXPECT_EQ(scriptedPicker().dateAsks[0].initial.date(), today);
+    EXPECT_EQ(box(form, "TPRDDueDate")->text(), "31/12/2569");
     pressSave(form, c);
     EXPECT_TRUE(criticals().isEmpty()) << criticals().join('\n').toStdString();
     const QString key = box(form, "TPRDNo")->text();
     EXPECT_EQ(cell(c, key, "TPRDTPrjCode"), "PJ02");
     EXPECT_EQ(cell(c, key, "TPRDDate"), today.toString(Qt::ISODate));
     EXPECT_EQ(cell(c, key, "TPRDDueDate"), "2026-12-31");
+    window->closeForm(form);
+
+    // A Thai user who chose Gregorian years ("DateEra" 2) gets them on the form.
+    data.execute("INSERT INTO QD8TUserSetting (TUsSTUsrID, TUsSAlias, TUsSValue) SELECT TUsrID, 'DateEra', '2' FROM QD8TUser WHERE TUsrLoginName='SOMCHAI'");
+    form = openAsList(c, "ADD", QString());
+    ASSERT_TRUE(form);
+    EXPECT_EQ(box(form, "TPRDDate")->text(), today.toString("dd/MM/yyyy"));
 }
 
 TEST_P(DocumentFormTest, SavingIsRefusedForABadKeyOrValueAndKeepsWhatWasTyped)

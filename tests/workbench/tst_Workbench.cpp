@@ -28,6 +28,7 @@
 #include <QListWidget>
 #include <QPrintPreviewWidget>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
@@ -206,9 +207,12 @@ TEST_P(WorkbenchTest, PrintingAListPreviewsItsRowsAndExportsPdf)
     window->launch("HREMPLOYEE");
     auto* form = qobject_cast<TableListForm*>(window->tabs()->widget(0));
     ASSERT_TRUE(form);
-    const ListPrinter printer("Employees", form->statement(), "Code,Name,Type,Branch,Start", session.sessionConnectionString);
+    const ListPrinter printer("Employees", form->statement(), "Code,Name,Type,Branch,Start", session.sessionConnectionString,
+        DateLook::forLanguage(0));
     EXPECT_EQ(printer.rowCount(), 4);
     EXPECT_TRUE(printer.html().contains("มาลี ศรีสุข"));
+    // Start dates print as a Thai user reads them.
+    EXPECT_TRUE(printer.html().contains(QRegularExpression("<td>\\d\\d/\\d\\d/25\\d\\d</td>"))) << printer.html().toStdString();
     const QString pdf = files.filePath("employees.pdf");
     ASSERT_TRUE(printer.exportPdf(pdf));
     QFile file(pdf);
