@@ -11,6 +11,8 @@
 #include "foundation/DbError.h"
 #include "foundation/Recordset.h"
 #include "foundation/Services.h"
+#include "foundation/DateText.h"
+#include "widgets/DateEdit.h"
 #include "widgets/SendKeys.h"
 
 #include <QCheckBox>
@@ -28,17 +30,9 @@ namespace {
 
 constexpr int PanelColumns = 4;  // label/box pairs per row of the filter panel
 
-// A date box as a clerk types it: dd/MM/yyyy (a Buddhist-era year above 2400 is taken
-// back 543 years) or yyyy-MM-dd; an invalid date for anything else.
-QDate boxDate(const QString& text)
+QDate boxDate(const DateEdit* box)
 {
-    const QString t = text.trimmed();
-    QDate date = QDate::fromString(t, QStringLiteral("d/M/yyyy"));
-    if (!date.isValid())
-        date = QDate::fromString(t, Qt::ISODate);
-    if (date.isValid() && date.year() > 2400)
-        date = date.addYears(-543);
-    return date;
+    return box ? box->date() : QDate();
 }
 
 // The division box filters divisions, departments or sections, whichever the list's field
@@ -143,17 +137,17 @@ DocumentFilter DucumentList::currentFilter()
     f.statusCode = m_status ? m_statusCodes.value(m_status->currentIndex()) : QString();
     if (clientObject() && clientObject()->approveNoteFilter())
         f.approveNote = clientObject()->approveNoteValue();
-    f.dateFrom = boxDate(boxText(m_dateFrom));
-    f.dateTo = boxDate(boxText(m_dateTo));
-    f.deliveryBy = boxDate(boxText(m_deliveryDate));
+    f.dateFrom = boxDate(m_dateFrom);
+    f.dateTo = boxDate(m_dateTo);
+    f.deliveryBy = boxDate(m_deliveryDate);
     f.customer = boxText(m_customer);
     f.supplier = boxText(m_supplier);
     f.employees = boxText(m_employee);
     f.arrearOnly = m_arrearOnly && m_arrearOnly->isChecked();
     f.invArrearOnly = m_invArrearOnly && m_invArrearOnly->isChecked();
     f.status2 = m_status2 ? m_status2->currentIndex() : -1;
-    f.date2From = boxDate(boxText(m_date2From));
-    f.date2To = boxDate(boxText(m_date2To));
+    f.date2From = boxDate(m_date2From);
+    f.date2To = boxDate(m_date2To);
     f.division = boxText(m_division);
     f.filter1 = boxText(m_filter1);
     f.project = m_projectFilterOn ? boxText(m_project) : QString();
@@ -366,29 +360,34 @@ QLineEdit* DucumentList::addBox(const char* name, const QString& caption, const 
 {
     if (field.isEmpty())
         return nullptr;
-    auto* label = new QLabel(caption, m_panel);
     auto* box = new QLineEdit(m_panel);
-    box->setObjectName(QString::fromLatin1(name));
-    box->setAccessibleName(caption);
-    label->setBuddy(box);
     if (pick) {
         box->setToolTip(bilingual("F2 เลือกจากรายการ", "F2 picks from a list"));
         m_pickers.insert(box, pick);
         box->installEventFilter(this);
     }
+    placeBox(name, caption, box);
+    return box;
+}
+
+DateEdit* DucumentList::addDateBox(const char* name, const QString& caption)
+{
+    auto* box = new DateEdit(m_panel);
+    box->setDateLook(dateLook());  // the calendar on F4 and the user's era
+    placeBox(name, caption, box);
+    return box;
+}
+
+void DucumentList::placeBox(const char* name, const QString& caption, QLineEdit* box)
+{
+    auto* label = new QLabel(caption, m_panel);
+    box->setObjectName(QString::fromLatin1(name));
+    box->setAccessibleName(caption);
+    label->setBuddy(box);
     connect(box, &QLineEdit::returnPressed, this, &DucumentList::select);
     m_grid->addWidget(label, m_cell / PanelColumns, (m_cell % PanelColumns) * 2);
     m_grid->addWidget(box, m_cell / PanelColumns, (m_cell % PanelColumns) * 2 + 1);
     ++m_cell;
-    return box;
-}
-
-QLineEdit* DucumentList::addDateBox(const char* name, const QString& caption)
-{
-    QLineEdit* box = addBox(name, caption, QStringLiteral("date"));
-    box->setPlaceholderText(QStringLiteral("dd/mm/yyyy"));
-    box->setMaxLength(10);
-    return box;
 }
 
 QComboBox* DucumentList::addCombo(const char* name, const QString& caption, const QStringList& captions, int current)
@@ -411,17 +410,17 @@ void DucumentList::applyBackDays()
     if (!m_backDays)
         return;
     const int days = splitList(m_def.BACKDAYLIST).value(m_backDays->currentIndex()).trimmed().toInt();
-    m_dateFrom->setText(days > 0 ? QDate::currentDate().addDays(-days).toString(QStringLiteral("dd/MM/yyyy")) : QString());
+    m_dateFrom->setDate(days > 0 ? QDate::currentDate().addDays(-days) : QDate());
     m_dateTo->clear();
 }
 
 QString DucumentList::badInput() const
 {
     const auto named = [](const QLineEdit* box) { return box->accessibleName() + QStringLiteral(": ") + box->text(); };
-    for (const QLineEdit* box : {m_dateFrom, m_dateTo, m_deliveryDate, m_date2From, m_date2To}) {
-        const QString text = boxText(box);
-        if (!text.isEmpty() && !boxDate(text).isValid())
-            return bilingual("วันที่ไม่ถูกต้อง (วว/ดด/ปปปป) ", "Not a date (dd/mm/yyyy) ") + named(box);
+    for (const DateEdit* box : {m_dateFrom, m_dateTo, m_deliveryDate, m_date2From, m_date2To}) {
+        if (!boxText(box).isEmpty() && !box->isValid())
+            return bilingual("วันที่ไม่ถูกต้อง ", "Not a date ") + QLatin1Char('(') + datePattern(LanguageID()) + QStringLiteral(") ")
+                + named(box);
     }
     // A quote would break the composed statement, which then refuses to run.
     for (const QLineEdit* box : m_panel->findChildren<QLineEdit*>()) {

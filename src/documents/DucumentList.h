@@ -13,6 +13,8 @@ class QLineEdit;
 
 namespace qd8 {
 
+class DateEdit;
+
 // The list of a document module's documents (purchase requests, orders, invoices, stock
 // issues ...), defined by the list-definition row of its command: which columns, which
 // filters, which legend and which document form. The filter panel composes the WHERE
@@ -129,7 +131,9 @@ private:
     QCheckBox* addCheck(const char* name, const QString& caption);
     // A widget across one label/box pair of the panel.
     void addWide(QWidget* widget);
-    QLineEdit* addDateBox(const char* name, const QString& caption);
+    DateEdit* addDateBox(const char* name, const QString& caption);
+    // A box under its caption in the next place of the panel; Enter in it selects.
+    void placeBox(const char* name, const QString& caption, QLineEdit* box);
     QComboBox* addCombo(const char* name, const QString& caption, const QStringList& captions, int current);
     void applyBackDays();
     void select();
@@ -150,16 +154,16 @@ private:
     QComboBox* m_status2 = nullptr;
     QComboBox* m_backDays = nullptr;
     QComboBox* m_sort = nullptr;
-    QLineEdit* m_dateFrom = nullptr;
-    QLineEdit* m_dateTo = nullptr;
-    QLineEdit* m_deliveryDate = nullptr;
+    DateEdit* m_dateFrom = nullptr;
+    DateEdit* m_dateTo = nullptr;
+    DateEdit* m_deliveryDate = nullptr;
     QLineEdit* m_customer = nullptr;
     QLineEdit* m_supplier = nullptr;
     QLineEdit* m_employee = nullptr;
     QCheckBox* m_arrearOnly = nullptr;
     QCheckBox* m_invArrearOnly = nullptr;
-    QLineEdit* m_date2From = nullptr;
-    QLineEdit* m_date2To = nullptr;
+    DateEdit* m_date2From = nullptr;
+    DateEdit* m_date2To = nullptr;
     QLineEdit* m_division = nullptr;
     QLineEdit* m_filter1 = nullptr;
     QLineEdit* m_project = nullptr;

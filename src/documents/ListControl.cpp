@@ -4,6 +4,7 @@
 #include "database/ListService.h"
 #include "database/PermissionObject.h"
 #include "database/QuickFormPick.h"
+#include "database/SessionFunctions.h"
 #include "database/SessionServices.h"
 #include "documents/CaptionPlaceholders.h"
 #include "foundation/CommaList.h"
@@ -123,6 +124,8 @@ bool ListControl::loadDefinition(const QString& iCommandAlias, const QString& iC
     } catch (const DbError& e) {
         loadFailed(e.message());  // the list still loads, in the language it had
     }
+    m_dateLook = DbSessionFunctions::userDateLook(UserID(), LanguageID(), DataConnectionString());
+    m_view->setDateLook(m_dateLook);
     try {
         m_projectLevel = SessionServices::listService()
                              .LookupValue(0, QStringLiteral("TUsrID"), UserID(), QStringLiteral("TUsrProjectLevel"),

@@ -2,6 +2,7 @@
 
 #include "documents/LegendList.h"
 #include "documents/ListDefinition.h"
+#include "foundation/DateText.h"
 #include "foundation/Sql.h"
 #include "widgets/HostedControl.h"
 
@@ -179,6 +180,8 @@ protected:
 
     // Where the filter panel goes, above the data view.
     QBoxLayout* panelLayout() const { return m_panelLayout; }
+    // How the user sees dates: the era of his language or the one he chose.
+    const DateLook& dateLook() const { return m_dateLook; }
     QString source() const;
     // The user's rights on the list's command, for the named rights ("ICINVENTORYCOST")
     // and the employee-type restriction; made by the session services, loaded once.
@@ -215,6 +218,7 @@ private:
 
     QString m_lCaption, m_fCaption, m_docNo, m_reportGroup, m_commandAlias, m_prefix;
     bool m_prefixFromHost = false;
+    DateLook m_dateLook;
     QString m_customQuery, m_customOrder;
     bool m_testMode = false;
 

@@ -4,6 +4,7 @@
 #include "database/PermissionObject.h"
 #include "database/QuickFormMetadata.h"
 #include "database/QuickFormPick.h"
+#include "database/SessionFunctions.h"
 #include "database/SessionServices.h"
 #include "foundation/Connection.h"
 #include "foundation/DbError.h"
@@ -232,6 +233,7 @@ void QuickGrid::FillData()
         }
         m_title->setText(formTitle(data, alias));
         m_grid->setLanguageID(LanguageID());
+        m_grid->setDateLook(DbSessionFunctions::userDateLook(UserID(), LanguageID(), DataConnectionString()));
         for (const QuickFieldDefinition& f : m_form.fields) {
             GridColumn column = GridColumn::fromDefinition(f.caption, f.width, f.type == QLatin1String("AUTONUMBER") ? QStringLiteral("NUMBER") : f.type,
                 f.decimals, f.rowAlign, f.labelList, f.canEdit && f.type != QLatin1String("AUTONUMBER"));

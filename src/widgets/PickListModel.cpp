@@ -167,7 +167,7 @@ QString PickListModel::keyAt(int row) const
 QString PickListModel::cellText(qsizetype sourceRow, int column) const
 {
     const QString stored = text(m_cursor.value(sourceRow, m_columns[column].cursorColumn));
-    return m_columns[column].labels.isEmpty() ? stored : m_shown[column].displayText(stored, 0);
+    return m_columns[column].labels.isEmpty() ? stored : m_shown[column].displayText(stored, DateEra::Gregorian);
 }
 
 QString PickListModel::shownText(int row, int column) const

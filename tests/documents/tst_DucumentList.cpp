@@ -7,6 +7,7 @@
 #include "documents/DucumentList.h"
 #include "foundation/SqlTrace.h"
 #include "widgets/DataView.h"
+#include "widgets/DateEdit.h"
 #include "widgets/FormCollection.h"
 #include "widgets/FormRegistry.h"
 
@@ -236,6 +237,18 @@ TEST_P(DucumentListTest, TheSessionComesFromTheObjectsAndAnotherDefinitionReplac
     EXPECT_EQ(list.UserID(), 2);
     EXPECT_EQ(list.NameList(), "No.,Date,Branch,Confirmed,Approved,Cancelled");
     EXPECT_EQ(list.findChild<QPushButton*>("cmdSelect")->text(), "Select");
+    const auto firstDate = [&] { return list.dataView()->tableView()->model()->index(0, 1).data().toString(); };
+    EXPECT_EQ(firstDate(), "20/02/2026");
+
+    open(list, "TESTPR", 1);  // Somchai reads Thai: Buddhist-era years, in the grid and in the date boxes
+    EXPECT_EQ(firstDate(), "20/02/2569");
+    scriptedPicker().dateAnswers = {QDateTime(QDate(2026, 2, 1), QTime())};
+    auto* from = list.findChild<DateEdit*>("txtDateFrom");
+    ASSERT_TRUE(from);
+    QTest::keyClick(from, Qt::Key_F4);
+    EXPECT_EQ(from->text(), "01/02/2569");
+    list.findChild<QPushButton*>("cmdSelect")->click();
+    EXPECT_TRUE(list.selectText().text().contains(" AND TPRDDate>=#$2026-02-01#$"));
 
     open(list, "PUPO", 1);
     EXPECT_EQ(list.UserID(), 1);
