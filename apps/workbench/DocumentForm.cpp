@@ -194,7 +194,7 @@ DocumentForm::DocumentForm(const DocumentDefinition& definition, QWidget* parent
     m_title->setObjectName(QStringLiteral("title"));
     m_title->setStyleSheet(QStringLiteral("font-weight: bold; font-size: 12pt"));
     m_modeLabel->setObjectName(QStringLiteral("mode"));
-    m_modeLabel->setStyleSheet(QStringLiteral("font-weight: bold; padding: 2px 8px; border: 1px solid palette(mid)"));
+    m_modeLabel->setStyleSheet(QStringLiteral("font-style: italic; color: palette(dark); padding: 2px 8px"));  // a word, not a button
     m_status->setObjectName(QStringLiteral("status"));
     m_save->setObjectName(QStringLiteral("save"));
     m_close->setObjectName(QStringLiteral("close"));

@@ -20,7 +20,6 @@ LoginDialog::LoginDialog(WorkbenchSession& session, QWidget* parent)
     for (const WorkbenchUser& user : session.users())
         m_users->addItem(QStringLiteral("%1 — %2").arg(user.loginName, user.name), user.loginName);
     m_password->setEchoMode(QLineEdit::Password);
-    m_password->setPlaceholderText(QStringLiteral("1234"));
     m_message->setStyleSheet(QStringLiteral("color: #b00020"));
     auto* form = new QFormLayout;
     form->addRow(QStringLiteral("ผู้ใช้ / User"), m_users);

@@ -62,6 +62,7 @@ WorkbenchWindow::WorkbenchWindow(const WorkbenchSession& session, const QString&
     , m_modules(new QComboBox(this))
 {
     setWindowTitle(QStringLiteral("QD8 Workbench"));
+    Services::messages().setLanguage(m_session.languageId);
     setMenuWidget(m_ribbon);
 
     auto* dockBody = new QWidget(this);
@@ -231,6 +232,7 @@ void WorkbenchWindow::setLanguage(int languageId)
         QSignalBlocker quiet(m_language);
         m_language->setCurrentIndex(languageId == 0 ? 0 : 1);
     }
+    Services::messages().setLanguage(languageId);
     fillModules(m_modules->currentData().toString());
     refreshLaunchers();
     updateStatusLabels();
@@ -244,14 +246,18 @@ void WorkbenchWindow::setLanguage(int languageId)
                 continue;
             control->SetLast2(control->session().FolderPathName, control->session().ControlName, QString::number(m_session.userId),
                 m_session.dataConnectionString, m_session.appConnectionString);
-            if (mode != QLatin1String("ADD") && mode != QLatin1String("EDIT")) {
+            Command command;
+            if (qobject_cast<DucumentList*>(control) || qobject_cast<MasterList*>(control)) {
+                // A list builds its panel, captions and legend from its definition: read it again.
+                if (findCommand(tabCommand(i), &command))
+                    loadControl(*control, command);
+            } else if (mode != QLatin1String("ADD") && mode != QLatin1String("EDIT")) {
                 control->Refresh();
                 if (control->metaObject()->indexOfSlot("FillData()") >= 0)
                     QMetaObject::invokeMethod(control, "FillData");
             }
             // The tab takes the form's own title, else its command's caption in the new language.
             QString caption;
-            Command command;
             if (control->metaObject()->indexOfMethod("caption()") >= 0)
                 QMetaObject::invokeMethod(control, "caption", Q_RETURN_ARG(QString, caption));
             else if (findCommand(tabCommand(i), &command))
@@ -332,8 +338,11 @@ void WorkbenchWindow::launch(const QString& shellFunction)
         command.quickForm = command.alias;
     }
     if (form.isEmpty()) {
-        showStatus(text("ยังไม่มีฟอร์มสำหรับคำสั่ง %1 (%2) ในรุ่นนี้", "This build has no form for the command %1 (%2) yet")
-                       .arg(command.alias, command.caption));
+        // A command whose form comes later still answers: it says what it is.
+        const QString message = text("คำสั่ง \"%1\" (%2): รุ่นนี้ยังไม่มีฟอร์มของคำสั่งนี้", "The command \"%1\" (%2): this build has no form for it yet")
+                                    .arg(command.caption, command.alias);
+        showStatus(message);
+        Services::messages().information(windowTitle(), message);
         return;
     }
     openForm(form, command);

@@ -58,6 +58,7 @@ int main(int argc, char* argv[])
         {"password", "Password of --user.", "PASSWORD"},
         {"lang", "Language: th or en (stored as the user's setting).", "LANG"},
         {"module", "Module shown at start (command group alias).", "ALIAS"},
+        {"size", "Size of the main window, e.g. 1024x768.", "WxH"},
         {"screenshot", "Write PNGs of the main window and every form into DIR, then exit.", "DIR"},
         {"log", "Append status messages and opened forms to FILE.", "FILE"},
         {"admin", "The qd8-admin program that creates the sample company.", "PATH",
@@ -113,6 +114,8 @@ int main(int argc, char* argv[])
     WorkbenchWindow window(session, options.value("module"));
     QObject::connect(&window, &WorkbenchWindow::statusChanged, [&](const QString& message) { note("status " + message); });
     QObject::connect(&window, &WorkbenchWindow::formOpened, [&](const QString& alias) { note("opened " + alias); });
+    if (const QStringList size = options.value("size").split(QLatin1Char('x')); size.size() == 2)
+        window.resize(size[0].toInt(), size[1].toInt());
     window.show();
 
     if (options.isSet("screenshot")) {

@@ -25,8 +25,25 @@ public:
         return v.isNull() ? QString() : v.toString();
     }
     int number(const char* column) const { return qRound(text(QString::fromLatin1(column)).trimmed().toDouble()); }
+    // A text the user reads, from the column's English twin in an English session; a twin
+    // left empty falls back to the Thai text so the list still has its choices.
+    QString caption(const char* thaiColumn, int languageId) const
+    {
+        const QString thai = QString::fromLatin1(thaiColumn);
+        if (isThai(languageId))
+            return text(thai);
+        const QString english = text(englishTwin(thai));
+        return english.isEmpty() ? text(thai) : english;
+    }
 
 private:
+    // The language suffix appended to the Thai column's name; TFDLFilterStatusL + "2" is the
+    // second status list already, so its twin is TFDLFilterStatusL12.
+    static QString englishTwin(const QString& thaiColumn)
+    {
+        return thaiColumn == QLatin1String("TFDLFilterStatusL") ? QStringLiteral("TFDLFilterStatusL12") : thaiColumn + nameSuffix(1);
+    }
+
     QString m_alias;
     QString m_cs;
 };
@@ -49,12 +66,12 @@ ListDefinition ListDefinition::load(const QString& alias, const QString& appConn
     }
     d.PrimaryKeyList = row.text("TFDLPrimaryKeyList");
     d.ColumnList = row.text("TFDLColumnList");
-    d.NameList = row.text(QStringLiteral("TFDLNameList") + nameSuffix(languageId));
+    d.NameList = row.caption("TFDLNameList", languageId);
     d.WidthList = row.text("TFDLWidthList");
     d.rowHeight = row.number("TFDLRowHeight");
     d.TypeList = row.text("TFDLTypeList");
     d.Query = row.text("TFDLQuery");
-    d.OrderList = row.text("TFDLOrderList");
+    d.OrderList = row.caption("TFDLOrderList", languageId);
     d.OrderQuery = row.text("TFDLOrderQuery");
     d.FilterCustom = row.text("TFDLFilterCustom");
     d.FilterCustom2 = row.text("TFDLFilterCustom2");
@@ -62,11 +79,11 @@ ListDefinition ListDefinition::load(const QString& alias, const QString& appConn
     d.Filter1 = row.text("TFDLFilter1");
     d.Filter1W = row.text("TFDLFilter1W");
     d.FILTER2 = row.text("TFDLFilter2");
-    d.Filter2Caption = row.text("TFDLFilter2F");
+    d.Filter2Caption = row.caption("TFDLFilter2F", languageId);
     d.FILTER3 = row.text("TFDLFilter3");
-    d.Filter3Caption = row.text("TFDLFilter3F");
+    d.Filter3Caption = row.caption("TFDLFilter3F", languageId);
     d.FilterEmployee = row.text("TFDLFilterEmployee");
-    d.FilterEmpLabel = row.text("TFDLFilterEmpLabel");
+    d.FilterEmpLabel = row.caption("TFDLFilterEmpLabel", languageId);
     d.FilterAR = row.text("TFDLFilterAR");
     d.FilterARByEmp = row.number("TFDLFilterARByEmp");
     d.FilterAP = row.text("TFDLFilterAP");
@@ -79,16 +96,16 @@ ListDefinition ListDefinition::load(const QString& alias, const QString& appConn
     d.filterBackDate = row.number("TFDLFilterBackDate") != 0;
     d.FilterDeliveryDate = row.text("TFDLFilterDeliveryDate");
     d.FilterArrear = row.text("TFDLFilterArrear");
-    d.FilterArrearCaption = row.text("TFDLFilterArrearC");
+    d.FilterArrearCaption = row.caption("TFDLFilterArrearC", languageId);
     d.FilterInvArrear = row.text("TFDLFilterInvArr");
-    d.FilterInvArrearCaption = row.text("TFDLFilterInvArrC");
+    d.FilterInvArrearCaption = row.caption("TFDLFilterInvArrC", languageId);
     d.FilterStatus = row.text("TFDLFilterStatus");
-    d.FilterStatusCaptions = row.text("TFDLFilterStatusL");
+    d.FilterStatusCaptions = row.caption("TFDLFilterStatusL", languageId);
     d.FilterStatus2 = row.text("TFDLFilterStatus2");
-    d.FilterStatusCaptions2 = row.text("TFDLFilterStatusL2");
+    d.FilterStatusCaptions2 = row.caption("TFDLFilterStatusL2", languageId);
     d.FilterDate = row.text("TFDLFilterDate");
-    d.FilterDateCaption = row.text("TFDLFilterDateC");
-    d.LegendList = row.text("TFDLLegendList");
+    d.FilterDateCaption = row.caption("TFDLFilterDateC", languageId);
+    d.LegendList = row.caption("TFDLLegendList", languageId);
     d.FormDetail = row.text("TFDLFormDetail");
     d.FormFunction = row.text("TFDLFormFunction");
     d.DefaultFilter = row.number("TFDLDefaultFilter");
@@ -96,7 +113,7 @@ ListDefinition ListDefinition::load(const QString& alias, const QString& appConn
     d.SwitchOption = row.text("TFDLSwitchOption");
     d.ExtraSearch = row.text("TFDLExtraSearch");
     d.DeleteActionMode = row.number("TFDLDeleteAction");
-    d.DeleteActionCaption = row.text("TFDLDeleteActionC");
+    d.DeleteActionCaption = row.caption("TFDLDeleteActionC", languageId);
     d.AutoRefresh = row.text("TFDLAutoRefresh");
     d.buttonMode = row.text("TFDLButtonMode");
 

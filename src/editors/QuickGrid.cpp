@@ -14,6 +14,7 @@
 #include "widgets/GridEditor.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -51,7 +52,7 @@ const QHash<QString, QString>& productLineTitles()
 
 QuickGrid::QuickGrid(QWidget* parent)
     : HostedControl(parent)
-    , m_selectLabel(new QLabel(QStringLiteral("Group Code"), this))
+    , m_selectLabel(new QLabel(this))
     , m_selector(new QLineEdit(this))
     , m_selectButton(new QToolButton(this))
     , m_title(new QLabel(this))
@@ -62,7 +63,6 @@ QuickGrid::QuickGrid(QWidget* parent)
     m_selector->setReadOnly(true);
     m_selector->setMaximumWidth(160);
     m_selectButton->setText(QStringLiteral("..."));
-    m_selectButton->setToolTip(QStringLiteral("Select Group Code (F2)"));
     m_title->setStyleSheet(QStringLiteral("font-weight: bold"));
     auto* selectorRow = new QHBoxLayout;
     selectorRow->addWidget(m_selectLabel);
@@ -76,7 +76,6 @@ QuickGrid::QuickGrid(QWidget* parent)
             registerToolButton(key, action);
     }
     m_toolBar->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    m_filter->setPlaceholderText(QStringLiteral("แสดงเฉพาะ / Show only"));
     m_filter->setClearButtonEnabled(true);
     m_filter->setVisible(false);
     auto* layout = new QVBoxLayout(this);
@@ -98,6 +97,7 @@ QuickGrid::QuickGrid(QWidget* parent)
     m_grid->setValidator([this](int row, int col, const QVariant& value) { return checkCell(row, col, value); });
     m_grid->setReadOnly(true);
     setbuttons();
+    retranslate();
 }
 
 QuickGrid::~QuickGrid() = default;
@@ -109,7 +109,33 @@ QString QuickGrid::SelectCaption() const
 
 void QuickGrid::setSelectCaption(const QString& caption)
 {
-    m_selectLabel->setText(caption);
+    m_selectCaption = caption;
+    retranslate();
+}
+
+void QuickGrid::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    HostedControl::changeEvent(event);
+}
+
+void QuickGrid::retranslate()
+{
+    static const struct {
+        const char* key;
+        const char* thai;
+        const char* english;
+    } captions[] = {{"Enter", "ตกลง", "Enter"}, {"Help", "ช่วยเหลือ", "Help"}, {"Add", "เพิ่ม", "Add"}, {"Delete", "ลบ", "Delete"},
+        {"Filter", "แสดงเฉพาะ", "Filter"}, {"Copy", "คัดลอก", "Copy"}, {"Edit", "แก้ไข", "Edit"}, {"Update", "บันทึก", "Update"},
+        {"Cancel", "ยกเลิก", "Cancel"}, {"Close", "ปิด", "Close"}, {"UnPass", "ไม่ผ่าน", "Unpass"}, {"Pass", "ผ่าน", "Pass"},
+        {"Check", "ตรวจสอบ", "Check"}, {"Print", "พิมพ์", "Print"}};
+    for (const auto& caption : captions)
+        if (QAction* action = button(QString::fromLatin1(caption.key)))
+            action->setText(bilingual(caption.thai, caption.english));
+    m_selectLabel->setText(m_selectCaption.isEmpty() ? bilingual("กลุ่มข้อมูล", "Group Code") : m_selectCaption);
+    m_selectButton->setToolTip(bilingual("เลือกกลุ่มข้อมูล (F2)", "Select Group Code (F2)"));
+    m_filter->setPlaceholderText(bilingual("แสดงเฉพาะรายการที่มีคำนี้", "Show only rows holding"));
 }
 
 QAction* QuickGrid::button(const QString& key) const
@@ -142,7 +168,7 @@ void QuickGrid::Refresh()
         for (; !rs.eof(); rs.moveNext())
             m_groupForms.append({rs.text(QStringLiteral("TQFmAlias")), rs.text(QStringLiteral("TQFmCaption") + nameSuffix())});
     } catch (const DbError& error) {
-        Services::messages().critical(QStringLiteral("Quick Form"), error.message());
+        Services::messages().critical(bilingual("ฟอร์มข้อมูล", "Quick Form"), error.message());
     }
 }
 
@@ -244,7 +270,7 @@ void QuickGrid::FillData()
         m_grid->setRefuseDelete(!m_form.canDelete || m_form.readOnly);
         loadRows(data);
     } catch (const DbError& error) {
-        Services::messages().critical(m_form.caption.isEmpty() ? QStringLiteral("Quick Form") : m_form.caption, error.message());
+        Services::messages().critical(m_form.caption.isEmpty() ? bilingual("ฟอร์มข้อมูล", "Quick Form") : m_form.caption, error.message());
         enterMode(QStringLiteral("BLANK"));
         return;
     }
@@ -260,7 +286,8 @@ void QuickGrid::loadRows(Connection& data)
         columns << rs.fieldIndex(f.fieldName);
         if (columns.last() < 0)
             throw DbError(DbError::Kind::Usage,
-                QStringLiteral("The field %1 of quick form %2 is not a column of %3").arg(f.fieldName, m_form.alias, m_form.view));
+                bilingual("ช่อง %1 ของฟอร์มข้อมูล %2 ไม่มีใน %3", "The field %1 of quick form %2 is not a column of %3")
+                    .arg(f.fieldName, m_form.alias, m_form.view));
     }
     m_loaded.reserve(rs.recordCount());
     for (; !rs.eof(); rs.moveNext()) {

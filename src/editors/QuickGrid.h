@@ -88,6 +88,7 @@ Q_SIGNALS:
 protected:
     QStringList propertyKeysRead() const override;
     GridEditor* hostedGrid() const override { return m_grid; }
+    void changeEvent(QEvent* event) override;
 
 private:
     QString formTitle(Connection& data, const QString& alias) const;
@@ -100,6 +101,8 @@ private:
     void print();
     void applyFilter(const QString& text);
     void pickIntoCell();
+    // Words the editor shows itself (selector, buttons, filter box) in the session language.
+    void retranslate();
     void fillNewRow(int row);
     QString checkCell(int row, int col, const QVariant& value) const;
     // The first blank that may not be blank, as its message; "" when every row is ready.
@@ -116,6 +119,7 @@ private:
     QString m_defaultFormAlias;
     bool m_locked = false;
     bool m_filtered = false;
+    QString m_selectCaption;  // the host's caption of the selector; "" for the editor's own
     QuickFormDefinition m_form;
     QList<QPair<QString, QString>> m_groupForms;
     QList<QVariantList> m_loaded;  // the values of the loaded rows, to see another user's change

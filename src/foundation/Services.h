@@ -23,6 +23,14 @@ public:
     virtual void critical(const QString& title, const QString& text) = 0;
     // Yes/No question; No is the default button. True when the user answered Yes.
     virtual bool question(const QString& title, const QString& text) = 0;
+
+    // The session language the buttons are worded in (LanguageID: 0 Thai, else English);
+    // the host sets it at login and when the user switches.
+    void setLanguage(int languageId) { m_languageId = languageId; }
+    int language() const { return m_languageId; }
+
+private:
+    int m_languageId = 0;
 };
 
 class PickerService {

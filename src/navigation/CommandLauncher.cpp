@@ -9,11 +9,13 @@ void CommandLauncher::deriveCommandCentre()
     m_commandCentre = qd8::commandCentreConnectionString(AppConnectionString());
 }
 
-void CommandLauncher::launch(const QString& alias)
+bool CommandLauncher::launch(const QString& alias)
 {
     QString stored = catalogue().storedAlias(alias);
-    if (!stored.isEmpty())
-        Q_EMIT Lunch(stored);
+    if (stored.isEmpty())
+        return false;
+    Q_EMIT Lunch(stored);
+    return true;
 }
 
 } // namespace qd8

@@ -25,8 +25,8 @@ protected:
     void deriveCommandCentre();
     CommandCatalogue catalogue() const { return CommandCatalogue(session(), m_commandCentre); }
     // Looks the alias up again and raises Lunch with the stored alias; an alias no longer
-    // in the catalogue launches nothing and says nothing.
-    void launch(const QString& alias);
+    // in the catalogue launches nothing. False when it was not found.
+    bool launch(const QString& alias);
 
 private:
     QString m_commandCentre;

@@ -287,10 +287,10 @@ void NUVRibbon::buttonClick(const QString& key)
     } else if (action == QLatin1String("REMOVE")) {
         showForm(MemoRemovalForm);
     } else if (action == QLatin1String("BROWSER")) {
-        Services::shell().openUrl(OemSettings(AppPath()).webPage(QStringLiteral("WEBSITE")));
+        openUrl(OemSettings(AppPath()).webPage(QStringLiteral("WEBSITE")));
     } else if (action == QLatin1String("EMAIL")) {
         const QString address = OemSettings(AppPath()).value(QStringLiteral("SUPPORTEMAIL"));
-        Services::shell().openUrl(QStringLiteral("mailto:") + (address.isEmpty() ? OemSettings::builtInPage(QStringLiteral("SUPPORTEMAIL")) : address));
+        openUrl(QStringLiteral("mailto:") + (address.isEmpty() ? OemSettings::builtInPage(QStringLiteral("SUPPORTEMAIL")) : address));
     } else if (action == QLatin1String("CALENDAR")) {
         start(QStringLiteral("Calendar.exe"));
     } else if (action == QLatin1String("IMAGEFOLDER")) {
@@ -301,14 +301,29 @@ void NUVRibbon::buttonClick(const QString& key)
         runHelp();
     } else if (action == QLatin1String("ABOUT")) {
         showAbout();
-    } else {
-        launch(key);
+    } else if (!launch(key)) {
+        notInThisBuild(key);
     }
+}
+
+void NUVRibbon::notInThisBuild(const QString& key)
+{
+    const QToolButton* button = m_ribbon->button(key);
+    const QString caption = button ? button->text().replace(QLatin1Char('\n'), QLatin1Char(' ')).replace(QStringLiteral("&&"), QStringLiteral("&")) : key;
+    Services::messages().information(OEMShortName(),
+        bilingual("%1 (%2): รุ่นนี้ยังไม่มีฟอร์มของคำสั่งนี้", "%1 (%2): this build has no form for it yet").arg(caption, key));
+}
+
+void NUVRibbon::openUrl(const QString& url)
+{
+    if (!Services::shell().openUrl(url))
+        Services::messages().information(OEMShortName(),
+            bilingual("ไม่มีโปรแกรมในเครื่องนี้ที่เปิด %1 ได้", "No program on this computer opens %1").arg(url));
 }
 
 void NUVRibbon::openWebPage(const QString& key)
 {
-    Services::shell().openUrl(OemSettings(AppPath()).webPage(key));
+    openUrl(OemSettings(AppPath()).webPage(key));
 }
 
 void NUVRibbon::pickTheme()
@@ -330,7 +345,8 @@ void NUVRibbon::pickTheme()
 void NUVRibbon::showForm(const QString& name)
 {
     if (!FormRegistry::showModal(name, window()))
-        Services::messages().information(OEMShortName(), QStringLiteral("The form \"%1\" is not installed.").arg(name));
+        Services::messages().information(OEMShortName(),
+            bilingual("ฟอร์ม \"%1\" ยังไม่มีในรุ่นนี้", "The form \"%1\" is not in this build.").arg(name));
 }
 
 void NUVRibbon::showAbout()

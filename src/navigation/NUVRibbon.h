@@ -57,6 +57,10 @@ private:
     void pickTheme();
     void openWebPage(const QString& key);
     void showForm(const QString& name);
+    // Opens a page or a mail address; says so when no program on the desktop can.
+    void openUrl(const QString& url);
+    // A button that is neither a local action nor a catalogue command says what it is.
+    void notInThisBuild(const QString& key);
     void showAbout();
 
     Ribbon* m_ribbon = nullptr;

@@ -33,7 +33,8 @@ bool ToolLauncher::start(const QString& commandLine)
 {
     if (Services::shell().run(commandLine, 0))
         return true;
-    Services::messages().information(QStringLiteral("System Configuration"), QStringLiteral("Cannot start ") + commandLine);
+    Services::messages().information(QStringLiteral("System Configuration"),
+        bilingual("เปิดโปรแกรม %1 ไม่ได้: ไม่มีโปรแกรมนี้ในเครื่อง", "Cannot start %1: no such program is installed on this computer").arg(commandLine));
     return false;
 }
 

@@ -140,6 +140,7 @@ void DataView::Private::buildView()
     view->verticalHeader()->hide();
     view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view->horizontalHeader()->setHighlightSections(false);
+    view->horizontalHeader()->setTextElideMode(Qt::ElideRight);  // a clipped caption ends in "…"
     view->installEventFilter(q);
     view->viewport()->installEventFilter(q);
 

@@ -331,6 +331,7 @@ QVariant DataViewModel::headerData(int section, Qt::Orientation orientation, int
         return QAbstractTableModel::headerData(section, orientation, role);
     switch (role) {
     case Qt::DisplayRole:
+    case Qt::ToolTipRole:  // the whole caption of a column too narrow for it
         return m_columns[section].caption;
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(alignmentOf(m_columns[section].type));

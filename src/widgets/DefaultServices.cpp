@@ -1,5 +1,6 @@
 #include "widgets/DefaultServices.h"
 
+#include "foundation/Language.h"
 #include "foundation/SessionContext.h"
 #include "widgets/DateTimeView.h"
 #include "widgets/MonthCalendar.h"
@@ -8,6 +9,7 @@
 #include "widgets/PickerPopup.h"
 #include "widgets/frmInputMultiLine.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDesktopServices>
 #include <QMessageBox>
@@ -33,20 +35,37 @@ QtShellService shell;
 
 } // namespace
 
+// A box whose buttons speak the session language, not the desktop's.
+QMessageBox::StandardButton QtMessageService::ask(QMessageBox::Icon icon, const QString& title, const QString& text,
+    QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton) const
+{
+    QMessageBox box(icon, title, text, buttons, activeWindow());
+    box.setDefaultButton(defaultButton);
+    static const struct {
+        QMessageBox::StandardButton button;
+        const char* thai;
+        const char* english;
+    } words[] = {{QMessageBox::Yes, "ใช่", "Yes"}, {QMessageBox::No, "ไม่ใช่", "No"}, {QMessageBox::Ok, "ตกลง", "OK"},
+        {QMessageBox::Cancel, "ยกเลิก", "Cancel"}, {QMessageBox::Save, "บันทึก", "Save"}, {QMessageBox::Discard, "ไม่บันทึก", "Discard"}};
+    for (const auto& word : words)
+        if (QAbstractButton* button = box.button(word.button))
+            button->setText(inLanguage(language(), word.thai, word.english));
+    return QMessageBox::StandardButton(box.exec());
+}
+
 void QtMessageService::information(const QString& title, const QString& text)
 {
-    QMessageBox::information(activeWindow(), title, text);
+    ask(QMessageBox::Information, title, text, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 void QtMessageService::critical(const QString& title, const QString& text)
 {
-    QMessageBox::critical(activeWindow(), title, text);
+    ask(QMessageBox::Critical, title, text, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 bool QtMessageService::question(const QString& title, const QString& text)
 {
-    return QMessageBox::question(activeWindow(), title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
-        == QMessageBox::Yes;
+    return ask(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
 QString DialogPickerService::pick(const PickRequest& request)

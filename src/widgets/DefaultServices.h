@@ -2,6 +2,8 @@
 
 #include "foundation/Services.h"
 
+#include <QMessageBox>
+
 namespace qd8 {
 
 // The Qt implementations of the services, installed as the defaults when the library
@@ -12,6 +14,10 @@ public:
     void information(const QString& title, const QString& text) override;
     void critical(const QString& title, const QString& text) override;
     bool question(const QString& title, const QString& text) override;
+
+private:
+    QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& title, const QString& text,
+        QMessageBox::StandardButtons buttons, QMessageBox::StandardButton defaultButton) const;
 };
 
 class DialogPickerService : public PickerService {

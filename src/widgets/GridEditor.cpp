@@ -132,6 +132,7 @@ GridEditor::Private::Private(GridEditor* owner)
     rows->setDefaultAlignment(Qt::AlignCenter);
     rows->setHighlightSections(true);
     view->horizontalHeader()->setHighlightSections(true);
+    view->horizontalHeader()->setTextElideMode(Qt::ElideRight);  // a clipped caption ends in "…"
     view->horizontalHeader()->setMinimumHeight(textHeight + 8);
 
     view->setAccessibleName(QStringLiteral("Grid editor"));

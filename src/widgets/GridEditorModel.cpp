@@ -107,7 +107,8 @@ QVariant GridEditorModel::headerData(int section, Qt::Orientation orientation, i
     if (orientation == Qt::Horizontal) {
         if (section < 0 || section >= m_columns.size())
             return {};
-        if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole)
+        // The tool tip holds the whole caption of a column too narrow for it.
+        if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole || role == Qt::ToolTipRole)
             return m_columns[section].caption;
         if (role == Qt::TextAlignmentRole)
             return QVariant::fromValue(int(m_columns[section].titleAlignment()));

@@ -8,6 +8,8 @@
 #include "database/SessionServices.h"
 #include "widgets/GridEditor.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <cmath>
 #include <stdexcept>
 
@@ -63,7 +65,10 @@ void HostedControl::takeSessionFromDataObject()
     m_session.AppConnectionString = m_dataObject->appConnectionString();
     m_session.UserID = m_dataObject->userId();
     m_session.UserLoginName = m_dataObject->userLoginName();
+    const qint16 before = m_session.LanguageID;
     m_session.LanguageID = userLanguage(m_session.UserID, m_session.DataConnectionString);
+    if (m_session.LanguageID != before)
+        announceLanguage();
 }
 
 void HostedControl::SetLast(const QString& FolderPathName, const QString& ControlName, const QString& UserID)
@@ -79,8 +84,18 @@ void HostedControl::SetLast2(const QString& FolderPathName, const QString& Contr
     m_session.DataConnectionString = DataConnectionString;
     m_session.AppConnectionString = AppConnectionString;
     m_session.UserID = toLong(UserID);
+    const qint16 before = m_session.LanguageID;
     m_session.LanguageID = userLanguage(m_session.UserID, DataConnectionString);
     m_session.FolderPathName = withTrailingBackslash(FolderPathName);
+    if (m_session.LanguageID != before)
+        announceLanguage();
+}
+
+void HostedControl::announceLanguage()
+{
+    // Qt's own signal for "reword yourself": a control rewords what it shows in changeEvent.
+    QEvent changed(QEvent::LanguageChange);
+    QCoreApplication::sendEvent(this, &changed);
 }
 
 void HostedControl::SetPermission(PermissionObject& PM)

@@ -149,6 +149,9 @@ protected:
     void takeSessionFromDataObject();
 
 private:
+    // Sends the control a QEvent::LanguageChange after the session language changed.
+    void announceLanguage();
+
     SessionContext m_session;
     std::shared_ptr<DataObject> m_dataObject;
     std::shared_ptr<AppObject> m_appObject;

@@ -15,6 +15,7 @@
 #include <QTabBar>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <functional>
@@ -138,13 +139,16 @@ private:
 };
 
 // One tab's page. The groups sit in a row kept at its natural width: a page wider than the
-// ribbon is cut at the right rather than squeezed, so buttons never overlap.
+// ribbon is never squeezed (buttons would overlap) but scrolls sideways, with arrow buttons
+// at its edges and the mouse wheel, so every button stays reachable on a small screen.
 class RibbonPage : public QWidget {
 public:
     RibbonPage(const Ribbon* ribbon, QWidget* parent)
         : QWidget(parent)
         , row(new QWidget(this))
         , groups(new QHBoxLayout(row))
+        , back(scrollButton(Qt::LeftArrow, QStringLiteral("ribbonScrollBack")))
+        , forward(scrollButton(Qt::RightArrow, QStringLiteral("ribbonScrollForward")))
         , m_ribbon(ribbon)
     {
         setObjectName(QStringLiteral("ribbonPage"));
@@ -152,18 +156,53 @@ public:
         groups->setContentsMargins(4, 2, 4, 2);
         groups->setSpacing(GroupSpacing);
         groups->addStretch(1);
+        connect(back, &QToolButton::clicked, this, [this] { scrollBy(-width() / 2); });
+        connect(forward, &QToolButton::clicked, this, [this] { scrollBy(width() / 2); });
     }
 
     QSize sizeHint() const override { return row->sizeHint(); }
     QSize minimumSizeHint() const override { return {0, row->minimumSizeHint().height()}; }
 
-    void placeRow() { row->setGeometry(0, 0, std::max(width(), row->sizeHint().width()), height()); }
+    void placeRow()
+    {
+        const int hidden = std::max(0, row->sizeHint().width() - width());
+        m_offset = std::clamp(m_offset, 0, hidden);
+        row->setGeometry(-m_offset, 0, std::max(width(), row->sizeHint().width()), height());
+        back->setGeometry(0, 0, ScrollButtonWidth, height());
+        forward->setGeometry(width() - ScrollButtonWidth, 0, ScrollButtonWidth, height());
+        back->setVisible(m_offset > 0);
+        forward->setVisible(m_offset < hidden);
+        back->raise();
+        forward->raise();
+        update();
+    }
+    void scrollBy(int pixels)
+    {
+        m_offset += pixels;
+        placeRow();
+    }
+    // Scrolls just enough to show a child of the row (a button reached with Tab).
+    void reveal(const QWidget* child)
+    {
+        const QRect r(child->mapTo(row, QPoint()), child->size());
+        if (r.left() - m_offset < ScrollButtonWidth)
+            scrollBy(r.left() - m_offset - ScrollButtonWidth);
+        else if (r.right() - m_offset > width() - ScrollButtonWidth)
+            scrollBy(r.right() - m_offset - width() + ScrollButtonWidth);
+    }
 
     QWidget* row;
     QHBoxLayout* groups;
+    QToolButton* back;
+    QToolButton* forward;
 
 protected:
     void resizeEvent(QResizeEvent*) override { placeRow(); }
+    void wheelEvent(QWheelEvent* event) override
+    {
+        const QPoint delta = event->angleDelta();
+        scrollBy(-(delta.x() ? delta.x() : delta.y()) / 2);
+    }
 
     bool event(QEvent* event) override
     {
@@ -206,7 +245,21 @@ protected:
     }
 
 private:
+    static constexpr int ScrollButtonWidth = 16;
+    QToolButton* scrollButton(Qt::ArrowType arrow, const QString& name)
+    {
+        auto* button = new QToolButton(this);
+        button->setObjectName(name);
+        button->setArrowType(arrow);
+        button->setAutoRepeat(true);
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setAccessibleName(arrow == Qt::LeftArrow ? QStringLiteral("Scroll back") : QStringLiteral("Scroll forward"));
+        button->hide();
+        return button;
+    }
+
     const Ribbon* m_ribbon;
+    int m_offset = 0;
 };
 
 } // namespace
@@ -719,6 +772,15 @@ bool Ribbon::eventFilter(QObject* watched, QEvent* event)
         m_tabBar->style()->unpolish(m_tabBar);
         m_tabBar->style()->polish(m_tabBar);
         m_tabBar->update();
+    }
+    if (event->type() == QEvent::FocusIn && watched != m_tabBar) {
+        // A button reached with the keyboard scrolls into view on a narrow ribbon.
+        auto* button = qobject_cast<QToolButton*>(watched);
+        for (QObject* o = button ? button->parent() : nullptr; o; o = o->parent())
+            if (o->objectName() == QLatin1String("ribbonPage")) {
+                static_cast<RibbonPage*>(o)->reveal(button);
+                break;
+            }
     }
     if (event->type() == QEvent::KeyPress && watched != m_tabBar) {
         const auto* key = static_cast<QKeyEvent*>(event);

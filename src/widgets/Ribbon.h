@@ -30,8 +30,8 @@ struct RibbonTheme {
 // shows one ampersand. Keys are compared exactly as given.
 //
 // The ribbon keeps one height whatever its tabs hold (two caption lines under a large icon,
-// plus the group caption line). A page wider than the ribbon is cut at the right instead
-// of squeezing its buttons, so the ribbon never forces a minimum width on the main window;
+// plus the group caption line). A page wider than the ribbon scrolls sideways instead of
+// squeezing its buttons, so the ribbon never forces a minimum width on the main window;
 // sizeHint() is as wide as the widest page (or the tab captions, if they are wider).
 class Ribbon : public QWidget {
     Q_OBJECT

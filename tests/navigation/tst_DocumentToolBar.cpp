@@ -139,7 +139,7 @@ TEST(DocumentToolBarTools, ClientConfigurationStartsWithTheLoginAndRemindsToLink
         {"C:\\Setup.exe", "", true, "C:\\Setup.exe /U=somchai /P=s3cret", reminder},
         {"", "D:\\QD8", true, command, reminder},
         {"", "", true, "", "System Configuration: ไม่ได้กำหนด System folder"},
-        {"", "D:\\QD8", false, command, QStringLiteral("System Configuration: Cannot start ") + command},
+        {"", "D:\\QD8", false, command, QStringLiteral("System Configuration: เปิดโปรแกรม %1 ไม่ได้: ไม่มีโปรแกรมนี้ในเครื่อง").arg(command)},
     };
     for (const auto& c : cases) {
         installScriptedServices();

@@ -2,9 +2,13 @@
 
 #include "database/QuickFormPick.h"
 #include "foundation/Services.h"
+#include "widgets/DefaultServices.h"
 #include "widgets/PickListDialog.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QLineEdit>
 #include <QTest>
 #include <QTableView>
@@ -61,5 +65,40 @@ TEST_P(DefaultPickerTest, TypingNarrowsTheListAndEnterReturnsTheHiddenKey)
 }
 
 QD8_ON_BOTH_ENGINES(DefaultPickerTest);
+
+// The Qt message boxes word their buttons in the session language, not the desktop's.
+TEST(DefaultMessages, ButtonsSpeakTheSessionLanguage)
+{
+    QtMessageService messages;
+    const struct {
+        int language;
+        bool question;
+        QStringList buttons;  // in the box's order, the default one first
+    } cases[] = {
+        {0, true, {"ไม่ใช่", "ใช่"}},
+        {1, true, {"No", "Yes"}},
+        {0, false, {"ตกลง"}},
+        {1, false, {"OK"}},
+    };
+    for (const auto& c : cases) {
+        messages.setLanguage(c.language);
+        QStringList shown;
+        QTimer::singleShot(0, [&shown] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box)
+                return ADD_FAILURE() << "no message box is showing";
+            shown << box->defaultButton()->text();
+            for (QAbstractButton* button : box->buttons())
+                if (button != box->defaultButton())
+                    shown << button->text();
+            box->defaultButton()->click();
+        });
+        if (c.question)
+            EXPECT_FALSE(messages.question("t", "q"));  // No is the default
+        else
+            messages.information("t", "i");
+        EXPECT_EQ(shown, c.buttons) << c.language;
+    }
+}
 
 } // namespace

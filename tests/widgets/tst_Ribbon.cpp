@@ -514,6 +514,21 @@ TEST_F(RibbonTest, AThaiRibbonShowsEverythingAtItsSizeHint)
     settle();
     for (auto it = sizes.cbegin(); it != sizes.cend(); ++it)
         EXPECT_EQ(it.key()->size(), it.value()) << it.key()->property("ribbonKey").toString().toStdString();
+    // ... and scrolls: the arrows at the edges bring every button into view, and so does the focus.
+    QList<QToolButton*> row = shownButtons();
+    std::sort(row.begin(), row.end(), [&](auto* a, auto* b) { return inRibbon(a).x() < inRibbon(b).x(); });
+    QWidget* page = row.first();
+    while (page->objectName() != "ribbonPage")
+        page = page->parentWidget();
+    const auto arrow = [&](const char* name) { return page->findChild<QToolButton*>(name, Qt::FindDirectChildrenOnly); };
+    ASSERT_TRUE(arrow("ribbonScrollForward")->isVisible());
+    EXPECT_FALSE(arrow("ribbonScrollBack")->isVisible());
+    for (int clicks = 0; arrow("ribbonScrollForward")->isVisible() && clicks < 20; ++clicks)
+        arrow("ribbonScrollForward")->click();
+    EXPECT_LE(inRibbon(row.last()).right(), ribbon.width());
+    EXPECT_TRUE(arrow("ribbonScrollBack")->isVisible());
+    row.first()->setFocus();
+    EXPECT_GE(inRibbon(row.first()).left(), 0);
 
     // A bigger font makes room for itself.
     QFont font = ribbon.font();

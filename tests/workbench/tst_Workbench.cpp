@@ -21,7 +21,10 @@
 #include "widgets/GridEditor.h"
 #include "widgets/Ribbon.h"
 
+#include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
+#include <QLabel>
 #include <QComboBox>
 #include <QFile>
 #include <QLineEdit>
@@ -353,6 +356,126 @@ TEST_P(WorkbenchTest, AClerkSearchesCustomersAndEditsOne)
     EXPECT_EQ(form->property("RUNMODE").toString(), "EDIT");
     EXPECT_EQ(form->property("MasterCode").toString(), "C001");
     EXPECT_EQ(form->keyBox()->text(), "C001");
+}
+
+// Every text a user can read in the window: labels, buttons, tool bar actions, choices, hints,
+// tool tips and column titles (grid cells are data and are left out).
+QStringList shownTexts(const QWidget& root)
+{
+    QStringList texts;
+    const auto add = [&texts](const QString& text) {
+        if (!text.trimmed().isEmpty())
+            texts << text;
+    };
+    for (const QWidget* w : root.findChildren<QWidget*>()) {
+        if (!w->isVisibleTo(&root))
+            continue;
+        add(w->toolTip());
+        if (auto* label = qobject_cast<const QLabel*>(w))
+            add(label->text());
+        else if (auto* button = qobject_cast<const QAbstractButton*>(w))
+            add(button->text());
+        else if (auto* box = qobject_cast<const QLineEdit*>(w))
+            add(box->placeholderText());
+        else if (auto* combo = qobject_cast<const QComboBox*>(w); combo && combo->isEditable() == false)
+            for (int i = 0; i < combo->count(); ++i)
+                add(combo->itemText(i));
+        else if (auto* view = qobject_cast<const QAbstractItemView*>(w); view && view->model())
+            for (int c = 0; c < view->model()->columnCount(); ++c)
+                add(view->model()->headerData(c, Qt::Horizontal).toString());
+        for (const QAction* action : w->actions())
+            if (action->isVisible())
+                add(action->text());
+    }
+    return texts;
+}
+
+TEST_P(WorkbenchTest, AnEnglishSessionShowsNoThaiAndTheSwitchRewordsEveryOpenTab)
+{
+    // The system's own quoted words and the names of the company's data stay as they are.
+    const QRegularExpression thai(QStringLiteral("[\u0E00-\u0E7F]"));
+    const QStringList keptAsGiven = {"ไทย", "เลือกเอกสาร", "เลือกรายการ", "พนักงานอ้างอิง"};
+    auto window = open("JOHN", "AR");
+    for (const char* alias : {"PURPR", "ARINVOICE", "ARCUSTOMER", "EMPTYPE"})
+        window->launch(alias);
+    auto* invoices = qobject_cast<DucumentList*>(window->tabs()->widget(1));
+    ASSERT_TRUE(invoices);
+    Q_EMIT invoices->dataView()->addRequested();  // a document form too
+    ASSERT_EQ(window->tabs()->count(), 5);
+    const auto thaiTexts = [&] {
+        QStringList found;
+        for (int i = 0; i < window->tabs()->count(); ++i) {
+            window->tabs()->setCurrentIndex(i);
+            for (const QString& text : shownTexts(*window))
+                if (text.contains(thai) && !keptAsGiven.contains(text) && !found.contains(text))
+                    found << text;
+        }
+        return found;
+    };
+    EXPECT_EQ(thaiTexts(), QStringList());
+    const auto combo = [&](int tab, const char* name) { return window->tabs()->widget(tab)->findChild<QComboBox*>(name); };
+    const auto grid = [&] { return qobject_cast<QuickGrid*>(window->tabs()->widget(3)); };
+    const struct {
+        int language;
+        QString purprStatus, invoiceStatus2, invoiceSort, update;
+    } sessions[] = {
+        {0, "ทั้งหมด", "ยังไม่วางบิล", "ครบกำหนด", "บันทึก"},
+        {1, "All", "Not billed", "Due Date", "Update"},
+    };
+    for (const auto& s : sessions) {
+        window->setLanguage(s.language);
+        EXPECT_EQ(combo(0, "cboStatus")->itemText(0), s.purprStatus);
+        EXPECT_EQ(combo(1, "Combo1")->itemText(1), s.invoiceStatus2);
+        EXPECT_EQ(combo(1, "cboSort")->itemText(1), s.invoiceSort);
+        EXPECT_EQ(grid()->button("Update")->text(), s.update);
+    }
+    EXPECT_EQ(thaiTexts(), QStringList());
+}
+
+TEST_P(WorkbenchTest, EveryCommandAndEveryRibbonButtonOpensSomethingOrSaysSomething)
+{
+    auto window = open("SOMCHAI", "AR");
+    QStringList opened;
+    QObject::connect(window.get(), &WorkbenchWindow::formOpened, [&](const QString& alias) { opened << alias; });
+    // Something visible happened: a tab, a message, a program or page, a choice.
+    const auto answered = [&](const QString& what, const std::function<void()>& act) {
+        const qsizetype messages = scriptedMessages().shown.size(), shell = scriptedShell().commands.size(),
+                        choices = scriptedPicker().choiceTitles.size(), forms = opened.size();
+        act();
+        const QString current = window->tabCommand(window->tabs()->currentIndex());
+        EXPECT_TRUE(scriptedMessages().shown.size() > messages || scriptedShell().commands.size() > shell
+            || scriptedPicker().choiceTitles.size() > choices || opened.size() > forms || current == what)
+            << what.toStdString();
+    };
+    Connection c;
+    c.open(appConnectionString());
+    Recordset rs;
+    rs.open(Sql("SELECT TCmdAlias FROM QD8TCommand WHERE TCmdFlag1=1"), c);
+    int commands = 0;
+    for (; !rs.eof(); rs.moveNext(), ++commands) {
+        const QString alias = rs.text("TCmdAlias");
+        const qsizetype before = scriptedMessages().shown.size();
+        answered(alias, [&] { window->launch(alias); });
+        if (scriptedMessages().shown.size() > before)  // a form of a later build: it says which command
+            EXPECT_TRUE(scriptedMessages().shown.last().text.contains(alias)) << scriptedMessages().shown.last().text.toStdString();
+        while (window->tabs()->count() > 0)
+            window->closeForm(window->tabs()->widget(0));
+    }
+    EXPECT_GT(commands, 50);
+    // The clipboard keys act on the focused box and show nothing of their own.
+    const QStringList keysOnly = {"CUT", "COPY", "PASTE"};
+    Ribbon* ribbon = window->ribbon()->ribbon();
+    for (const QString& tab : ribbon->tabKeys())
+        for (const QString& group : ribbon->groupKeys(tab))
+            for (const QString& key : ribbon->buttonKeys(tab, group))
+                if (!keysOnly.contains(key))
+                    answered(key, [&] { ribbon->button(tab, group, key)->click(); });
+    // A desktop without the program says so.
+    scriptedMessages().reset();
+    scriptedShell().starts = false;
+    ribbon->button("CALC")->click();
+    ASSERT_EQ(scriptedMessages().shown.size(), 1);
+    EXPECT_TRUE(scriptedMessages().shown[0].text.contains("Calc.exe"));
 }
 
 QD8_ON_BOTH_ENGINES(WorkbenchTest);
