@@ -1,5 +1,6 @@
 #include "widgets/DefaultServices.h"
 
+#include "foundation/Language.h"
 #include "foundation/SessionContext.h"
 #include "widgets/DateTimeView.h"
 #include "widgets/MonthCalendar.h"
@@ -14,6 +15,7 @@
 #include <QInputDialog>
 #include <QHash>
 #include <QProcess>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -47,6 +49,20 @@ bool QtMessageService::question(const QString& title, const QString& text)
 {
     return QMessageBox::question(activeWindow(), title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No)
         == QMessageBox::Yes;
+}
+
+MessageService::SaveAnswer QtMessageService::askToSave(const QString& title, const QString& text, int languageId)
+{
+    QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::NoButton, activeWindow());
+    QPushButton* save = box.addButton(inLanguage(languageId, "บันทึก", "Save"), QMessageBox::AcceptRole);
+    QPushButton* discard = box.addButton(inLanguage(languageId, "ไม่บันทึก", "Discard"), QMessageBox::DestructiveRole);
+    QPushButton* cancel = box.addButton(inLanguage(languageId, "ยกเลิก", "Cancel"), QMessageBox::RejectRole);
+    box.setDefaultButton(cancel);
+    box.setEscapeButton(cancel);
+    box.exec();
+    if (box.clickedButton() == save)
+        return SaveAnswer::Save;
+    return box.clickedButton() == discard ? SaveAnswer::Discard : SaveAnswer::Cancel;
 }
 
 QString DialogPickerService::pick(const PickRequest& request)
