@@ -11,6 +11,7 @@
 #include "foundation/TransactionGuard.h"
 #include "foundation/Values.h"
 #include "widgets/DateEdit.h"
+#include "widgets/EditorShortcuts.h"
 
 #include <QCheckBox>
 #include <QDate>
@@ -303,8 +304,10 @@ void DocumentForm::retranslate()
     m_status->setAccessibleName(bilingual("สถานะ", "Status"));
     m_save->setText(bilingual("บันทึก (Ctrl+S)", "Save (Ctrl+S)"));
     m_save->setAccessibleName(bilingual("บันทึก", "Save"));
+    m_save->setToolTip(withShortcut(m_save->accessibleName(), editorShortcut(QStringLiteral("Update"))));
     m_close->setText(bilingual("ปิด (Esc)", "Close (Esc)"));
     m_close->setAccessibleName(bilingual("ปิด", "Close"));
+    m_close->setToolTip(withShortcut(m_close->accessibleName(), QKeySequence(Qt::Key_Escape)));
     m_dateLook = DbSessionFunctions::userDateLook(UserID(), LanguageID(), DataConnectionString());
     for (Entry& entry : m_entries) {
         if (auto* date = qobject_cast<DateEdit*>(entry.box))
@@ -615,7 +618,7 @@ void DocumentForm::focusAfter(QObject* from)
 bool DocumentForm::handleKey(QKeyEvent* event, QObject* from)
 {
     const int key = event->key();
-    if (key == Qt::Key_S && event->modifiers().testFlag(Qt::ControlModifier)) {
+    if (QKeySequence(event->keyCombination()) == editorShortcut(QStringLiteral("Update"))) {
         save();
         return true;
     }
@@ -653,10 +656,9 @@ void DocumentForm::keyPressEvent(QKeyEvent* event)
 
 void DocumentForm::requestClose()
 {
-    if (hasChanges()
-        && !Services::messages().question(m_title->text(),
-            bilingual("มีข้อมูลที่ยังไม่ได้บันทึก ต้องการปิดโดยไม่บันทึกใช่หรือไม่", "There are changes that are not saved. Close without saving?")))
+    if (!confirmClose(m_title->text()))
         return;
+    markClean();  // saved or given up: the host has nothing left to ask about
     Q_EMIT CloseAction();
     if (isWindow())
         close();

@@ -145,7 +145,9 @@ public:
     bool hasChanges() const;
     // Validates and writes the row; true when it was written.
     bool save();
-    // Esc and the close button: asks first when there are unsaved changes.
+    bool hasUnsavedChanges() const override { return hasChanges(); }
+    bool saveChanges() override { return save(); }
+    // Esc and the close button: asks Save / Discard / Cancel first when there are unsaved changes.
     void requestClose();
 
 public Q_SLOTS:

@@ -24,6 +24,7 @@
 #include "widgets/Ribbon.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
@@ -463,13 +464,47 @@ void WorkbenchWindow::onLunch(QString& shellFunction)
     launch(shellFunction);
 }
 
-void WorkbenchWindow::closeForm(QWidget* form)
+bool WorkbenchWindow::closeForm(QWidget* form)
 {
     const int index = m_tabs->indexOf(form);
     if (index < 0)
-        return;
-    m_tabs->removeTab(index);
+        return false;
+    auto* control = qobject_cast<HostedControl*>(form);
+    if (control && control->hasUnsavedChanges()) {
+        m_tabs->setCurrentIndex(index);
+        if (!control->confirmClose(m_tabs->tabText(index)))
+            return false;
+    }
+    m_tabs->removeTab(m_tabs->indexOf(form));
     form->deleteLater();
+    return true;
+}
+
+bool WorkbenchWindow::closeAllForms()
+{
+    // Every question first: a Cancel on the third tab leaves the first two open too.
+    for (int i = 0; i < m_tabs->count(); ++i) {
+        auto* control = qobject_cast<HostedControl*>(m_tabs->widget(i));
+        if (!control || !control->hasUnsavedChanges())
+            continue;
+        m_tabs->setCurrentIndex(i);
+        if (!control->confirmClose(m_tabs->tabText(i)))
+            return false;
+    }
+    while (m_tabs->count() > 0) {
+        QWidget* form = m_tabs->widget(0);
+        m_tabs->removeTab(0);
+        form->deleteLater();
+    }
+    return true;
+}
+
+void WorkbenchWindow::closeEvent(QCloseEvent* event)
+{
+    if (closeAllForms())
+        event->accept();
+    else
+        event->ignore();
 }
 
 void WorkbenchWindow::onCloseRequest()

@@ -65,12 +65,21 @@ public Q_SLOTS:
     void launch(const QString& shellFunction);
     void setLanguage(int languageId);
     void setModule(const QString& commandGroup);
-    void closeForm(QWidget* form);
+    // Closes a form's tab; a form holding unsaved changes first asks Save / Discard / Cancel.
+    // False when the form stays (the user cancelled, or its save failed).
+    bool closeForm(QWidget* form);
+    // Before the session ends (closing the window, logging out, changing company): asks
+    // every tab with unsaved changes in turn, then closes them all. False, with every tab
+    // still open, when the user cancelled one or a save failed.
+    bool closeAllForms();
 
 Q_SIGNALS:
     // Every status message, for logs and tests.
     void statusChanged(const QString& message);
     void formOpened(const QString& commandAlias);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
 
 private Q_SLOTS:
     void onLunch(QString& shellFunction);

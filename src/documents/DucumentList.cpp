@@ -245,6 +245,11 @@ void DucumentList::addStatusBoxes()
     m_status = addCombo("cboStatus", bilingual("สถานะ", "Status"), captions.mid(0, m_statusCodes.size()), d.DefaultFilter);
     m_status2 = d.FilterStatus2.isEmpty() ? nullptr
                                           : addCombo("Combo1", bilingual("สถานะ 2", "Status 2"), splitList(d.FilterStatusCaptions2), 0);
+    // A choice is a filter: the rows follow it at once, so the list never shows other rows
+    // than its choices say.
+    for (QComboBox* choice : {m_status, m_status2})
+        if (choice)
+            connect(choice, &QComboBox::currentIndexChanged, this, &DucumentList::select);
 }
 
 void DucumentList::addDateBoxes()
@@ -256,7 +261,10 @@ void DucumentList::addDateBoxes()
         for (const QString& days : splitList(d.BACKDAYLIST))
             captions << (days.trimmed().toInt() == 0 ? bilingual("ทุกวันที่", "All dates") : bilingual("ย้อนหลัง %1 วัน", "Last %1 days").arg(days.trimmed()));
         m_backDays = addCombo("cboBackDay", bilingual("ย้อนหลัง", "Back days"), captions, 0);
-        connect(m_backDays, &QComboBox::currentIndexChanged, this, [this] { applyBackDays(); });
+        connect(m_backDays, &QComboBox::currentIndexChanged, this, [this] {
+            applyBackDays();
+            select();
+        });
     }
     m_dateFrom = addDateBox("txtDateFrom", bilingual("จากวันที่", "From date"));
     m_dateTo = addDateBox("txtDateTo", bilingual("ถึงวันที่", "To date"));

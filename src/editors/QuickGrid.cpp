@@ -11,10 +11,14 @@
 #include "foundation/Recordset.h"
 #include "foundation/Services.h"
 #include "foundation/Values.h"
+#include "widgets/EditorShortcuts.h"
 #include "widgets/GridEditor.h"
+#include "widgets/GridEditorModel.h"
 
 #include <QAction>
 #include <QEvent>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -63,6 +67,13 @@ QuickGrid::QuickGrid(QWidget* parent)
     m_selector->setReadOnly(true);
     m_selector->setMaximumWidth(160);
     m_selectButton->setText(QStringLiteral("..."));
+    // F2 in the selector or on its button opens the choice, as the tool tip says.
+    auto* choose = new QAction(this);
+    choose->setShortcut(QKeySequence(Qt::Key_F2));
+    choose->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    m_selector->addAction(choose);
+    m_selectButton->addAction(choose);
+    connect(choose, &QAction::triggered, this, &QuickGrid::chooseForm);
     m_title->setStyleSheet(QStringLiteral("font-weight: bold"));
     auto* selectorRow = new QHBoxLayout;
     selectorRow->addWidget(m_selectLabel);
@@ -72,6 +83,7 @@ QuickGrid::QuickGrid(QWidget* parent)
     for (const QString& key : ButtonKeys) {
         QAction* action = m_toolBar->addAction(key, this, [this, key] { buttonClick(key); });
         action->setObjectName(key);
+        bindEditorShortcut(action, key, this);
         if (PermissionObject::ToolBarKeys.contains(key))
             registerToolButton(key, action);
     }
@@ -174,7 +186,8 @@ void QuickGrid::Refresh()
 
 void QuickGrid::chooseForm()
 {
-    if (m_locked)
+    // Another form while editing would drop the edits.
+    if (m_locked || m_runMode == QLatin1String("ADD") || m_runMode == QLatin1String("EDIT"))
         return;
     const bool oneGroup = !m_quickGroup.isEmpty() && m_quickGroup != QLatin1String("SM");
     const QString source = oneGroup
@@ -238,6 +251,8 @@ void QuickGrid::FillData()
         alias = m_defaultFormAlias.trimmed();
         m_selector->setText(alias);
     }
+    // Reading the same form again (after a save that re-sorts) keeps the cursor on its record.
+    const QStringList kept = alias == m_form.alias ? currentKey() : QStringList();
     m_grid->Clear();
     m_loaded.clear();
     m_form = {};
@@ -275,6 +290,34 @@ void QuickGrid::FillData()
         return;
     }
     enterMode(QStringLiteral("VIEW"));
+    selectKey(kept);
+}
+
+QStringList QuickGrid::currentKey() const
+{
+    QStringList key;
+    const int row = m_grid->Row();
+    if (row < 1 || !m_form.isLoaded())
+        return key;
+    for (int col : m_form.keyColumns())
+        key << qd8::text(m_grid->GetValue(row, col));
+    return key;
+}
+
+void QuickGrid::selectKey(const QStringList& key)
+{
+    if (key.isEmpty() || key.join(QString()).isEmpty())
+        return;
+    const QList<int> columns = m_form.keyColumns();
+    for (int row = 1; row <= m_grid->Rows(); ++row) {
+        int same = 0;
+        while (same < columns.size() && qd8::text(m_grid->GetValue(row, columns[same])) == key.value(same))
+            ++same;
+        if (same == columns.size()) {
+            m_grid->setRow(row);
+            return;
+        }
+    }
 }
 
 void QuickGrid::loadRows(Connection& data)
@@ -309,14 +352,12 @@ void QuickGrid::enterMode(const QString& mode)
     setbuttons();
 }
 
-void QuickGrid::setbuttons()
+QStringList QuickGrid::buttonsShown(const QString& mode) const
 {
-    if (m_runMode.isEmpty())
-        m_runMode = QStringLiteral("BLANK");
+    if (mode == QLatin1String("BLANK"))
+        return {QStringLiteral("Close")};
     QStringList shown;
-    if (m_runMode == QLatin1String("BLANK")) {
-        shown = {QStringLiteral("Close")};
-    } else if (m_runMode == QLatin1String("VIEW")) {
+    if (mode == QLatin1String("VIEW")) {
         shown = {QStringLiteral("Close"), QStringLiteral("Filter")};
         if (!m_form.readOnly) {
             shown << QStringLiteral("Edit");
@@ -325,15 +366,56 @@ void QuickGrid::setbuttons()
         }
         if (!m_form.printCommand.isEmpty() || m_form.masterReportNo > 0)
             shown << QStringLiteral("Print");
-    } else {
-        shown = {QStringLiteral("Update"), QStringLiteral("Cancel"), QStringLiteral("Filter")};
-        if (m_form.canAdd)
-            shown << QStringLiteral("Add");
-        if (m_form.canDelete)
-            shown << QStringLiteral("Delete");
+        return shown;
     }
-    for (const QString& key : ButtonKeys)
-        button(key)->setVisible(shown.contains(key));
+    shown = {QStringLiteral("Update"), QStringLiteral("Cancel"), QStringLiteral("Filter")};
+    if (m_form.canAdd)
+        shown << QStringLiteral("Add");
+    if (m_form.canDelete)
+        shown << QStringLiteral("Delete");
+    return shown;
+}
+
+void QuickGrid::setbuttons()
+{
+    if (m_runMode.isEmpty())
+        m_runMode = QStringLiteral("BLANK");
+    // Buttons keep their places across modes: a button the form offers in any mode stays on
+    // the bar, disabled (its key dead too) where this mode does not show it; only one that
+    // no mode offers is hidden.
+    const QStringList shown = buttonsShown(m_runMode);
+    const QStringList offered = buttonsShown(QStringLiteral("VIEW")) + buttonsShown(QStringLiteral("EDIT"));
+    for (const QString& key : ButtonKeys) {
+        QAction* action = button(key);
+        action->setVisible(offered.contains(key) || shown.contains(key));
+        action->setEnabled(shown.contains(key) && !m_refused.contains(key));
+    }
+}
+
+void QuickGrid::SetPermission(PermissionObject& PM)
+{
+    HostedControl::SetPermission(PM);
+    for (const QString& key : PermissionObject::ToolBarKeys)
+        if (PM.right(key) == 0 && !m_refused.contains(key))
+            m_refused << key;
+}
+
+bool QuickGrid::hasUnsavedChanges() const
+{
+    return m_grid->model()->hasChanges();
+}
+
+bool QuickGrid::event(QEvent* event)
+{
+    // Escape in an open cell editor gives up that cell, not every change (Cancel's key).
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        QWidget* focus = QApplication::focusWidget();
+        if (focus && m_grid->isAncestorOf(focus) && !focus->inherits("QAbstractItemView")) {
+            event->accept();
+            return true;
+        }
+    }
+    return HostedControl::event(event);
 }
 
 void QuickGrid::buttonClick(const QString& key)
@@ -353,6 +435,10 @@ void QuickGrid::buttonClick(const QString& key)
     } else if (key == QLatin1String("Update")) {
         save();
     } else if (key == QLatin1String("Cancel")) {
+        if (hasUnsavedChanges()
+            && !Services::messages().question(m_form.caption,
+                bilingual("ต้องการยกเลิกการแก้ไขที่ยังไม่ได้บันทึกทั้งหมดใช่หรือไม่", "Drop every change that is not saved?")))
+            return;
         cmdCancel_Click();
     } else if (key == QLatin1String("Print")) {
         print();

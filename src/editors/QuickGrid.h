@@ -79,6 +79,14 @@ public Q_SLOTS:
     // "Update": confirms, checks, writes every marked row in one transaction; true when saved.
     bool save();
 
+public:
+    // Rows added, changed or marked for deletion and not saved yet.
+    bool hasUnsavedChanges() const override;
+    bool saveChanges() override { return save(); }
+    using HostedControl::SetPermission;
+    // Remembers the buttons the rights refuse, so that no mode enables them again.
+    void SetPermission(PermissionObject& PM) override;
+
 Q_SIGNALS:
     void CloseButtonClick();
     void PrintButtonClick(const QString& PrintCommandAlias);
@@ -86,6 +94,7 @@ Q_SIGNALS:
     void ChangeGroup();
 
 protected:
+    bool event(QEvent* event) override;
     QStringList propertyKeysRead() const override;
     GridEditor* hostedGrid() const override { return m_grid; }
     void changeEvent(QEvent* event) override;
@@ -98,6 +107,11 @@ private:
     QString employeeScope(const QString& alias, int HF) const;
     void loadRows(Connection& data);
     void enterMode(const QString& mode);
+    // The buttons a mode shows, as the form allows.
+    QStringList buttonsShown(const QString& mode) const;
+    // The key values of the current row, to find the same record after the rows are read again.
+    QStringList currentKey() const;
+    void selectKey(const QStringList& key);
     void print();
     void applyFilter(const QString& text);
     void pickIntoCell();
@@ -120,6 +134,7 @@ private:
     bool m_locked = false;
     bool m_filtered = false;
     QString m_selectCaption;  // the host's caption of the selector; "" for the editor's own
+    QStringList m_refused;  // buttons the rights refuse
     QuickFormDefinition m_form;
     QList<QPair<QString, QString>> m_groupForms;
     QList<QVariantList> m_loaded;  // the values of the loaded rows, to see another user's change

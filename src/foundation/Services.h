@@ -23,6 +23,11 @@ public:
     virtual void critical(const QString& title, const QString& text) = 0;
     // Yes/No question; No is the default button. True when the user answered Yes.
     virtual bool question(const QString& title, const QString& text) = 0;
+    // What to do with unsaved changes before they would be dropped: Save, Discard or
+    // Cancel (the default and Escape, so a stray key loses nothing). The buttons are worded
+    // in the session language (LanguageID 0 Thai).
+    enum class SaveAnswer { Save, Discard, Cancel };
+    virtual SaveAnswer askToSave(const QString& title, const QString& text, int languageId) = 0;
 
     // The session language the buttons are worded in (LanguageID: 0 Thai, else English);
     // the host sets it at login and when the user switches.

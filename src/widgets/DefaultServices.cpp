@@ -16,6 +16,7 @@
 #include <QInputDialog>
 #include <QHash>
 #include <QProcess>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -66,6 +67,20 @@ void QtMessageService::critical(const QString& title, const QString& text)
 bool QtMessageService::question(const QString& title, const QString& text)
 {
     return ask(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+MessageService::SaveAnswer QtMessageService::askToSave(const QString& title, const QString& text, int languageId)
+{
+    QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::NoButton, activeWindow());
+    QPushButton* save = box.addButton(inLanguage(languageId, "บันทึก", "Save"), QMessageBox::AcceptRole);
+    QPushButton* discard = box.addButton(inLanguage(languageId, "ไม่บันทึก", "Discard"), QMessageBox::DestructiveRole);
+    QPushButton* cancel = box.addButton(inLanguage(languageId, "ยกเลิก", "Cancel"), QMessageBox::RejectRole);
+    box.setDefaultButton(cancel);
+    box.setEscapeButton(cancel);
+    box.exec();
+    if (box.clickedButton() == save)
+        return SaveAnswer::Save;
+    return box.clickedButton() == discard ? SaveAnswer::Discard : SaveAnswer::Cancel;
 }
 
 QString DialogPickerService::pick(const PickRequest& request)

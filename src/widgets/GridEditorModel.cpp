@@ -4,6 +4,8 @@
 #include <QFont>
 #include <QPalette>
 
+#include <algorithm>
+
 namespace qd8 {
 
 namespace {
@@ -373,6 +375,12 @@ QString GridEditorModel::mark(int row) const
     if (edit.deleted)
         return DeletedMark;
     return edit.operation == RowOperation::None ? QString() : EditedMark;
+}
+
+bool GridEditorModel::hasChanges() const
+{
+    return std::any_of(m_rows.cbegin(), m_rows.cend(),
+        [](const Row& row) { return row.edit.deleted || row.edit.operation != RowOperation::None; });
 }
 
 const GridEditorModel::RowEdit& GridEditorModel::rowEdit(int row) const

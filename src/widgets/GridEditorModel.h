@@ -85,6 +85,8 @@ public:
     bool setValue(int row, int column, const QVariant& value);
 
     QString mark(int row) const;
+    // Whether any row waits to be written: added, changed or marked for deletion.
+    bool hasChanges() const;
     const RowEdit& rowEdit(int row) const;
     bool isNewRow(int row) const;
 

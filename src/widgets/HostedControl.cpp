@@ -6,6 +6,7 @@
 #include "database/PermissionObject.h"
 #include "database/SessionFunctions.h"
 #include "database/SessionServices.h"
+#include "foundation/Services.h"
 #include "widgets/GridEditor.h"
 
 #include <QCoreApplication>
@@ -163,6 +164,23 @@ QString HostedControl::designProperty(const QString& key) const
 void HostedControl::setDesignProperty(const QString& key, const QString& value)
 {
     setProperty(key.toLatin1().constData(), value);
+}
+
+bool HostedControl::confirmClose(const QString& title)
+{
+    if (!hasUnsavedChanges())
+        return true;
+    switch (Services::messages().askToSave(title,
+        bilingual("มีข้อมูลที่ยังไม่ได้บันทึก ต้องการบันทึกก่อนปิดหรือไม่", "There are changes that are not saved. Save them before closing?"),
+        LanguageID())) {
+    case MessageService::SaveAnswer::Save:
+        return saveChanges();
+    case MessageService::SaveAnswer::Discard:
+        return true;
+    case MessageService::SaveAnswer::Cancel:
+        break;
+    }
+    return false;
 }
 
 void HostedControl::registerToolButton(const QString& key, QObject* button)

@@ -121,6 +121,16 @@ public:
     Q_INVOKABLE void SetPrintCommand(qint32 DTSID, const QString& AppPath, const QString& UserName, const QString& UserPassword);
     const qd8::PrintCommand& printCommand() const { return m_printCommand; }
 
+    // Whether the control holds changes the user has not saved. A host asks before it
+    // closes the control, logs out or changes company.
+    virtual bool hasUnsavedChanges() const { return false; }
+    // Writes those changes as the control's own save does; true when nothing unsaved is left.
+    virtual bool saveChanges() { return true; }
+    // Before the control goes away: with unsaved changes asks Save / Discard / Cancel through
+    // the message service (titled `title`, worded in the session language). True when the
+    // control may go: nothing unsaved, saved, or discarded by the user.
+    bool confirmClose(const QString& title);
+
     // Restores the design-time keys this control reads; each missing key reads as "".
     void readProperties(const PropertyBag& bag);
     // Saves the design-time keys this control writes.

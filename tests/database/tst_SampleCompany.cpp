@@ -2,6 +2,7 @@
 #include "support/SampleCompany.h"
 
 #include "database/Schema.h"
+#include "editors/QuickGrid.h"
 #include "documents/DucumentList.h"
 #include "documents/ListDefinition.h"
 #include "foundation/CommaList.h"
@@ -10,6 +11,8 @@
 #include "foundation/DbError.h"
 #include "foundation/Recordset.h"
 #include "navigation/OemSettings.h"
+#include "support/ScriptedServices.h"
+#include "widgets/GridEditor.h"
 
 #include <QColor>
 #include <QCoreApplication>
@@ -17,6 +20,7 @@
 #include <QHash>
 #include <QImageReader>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSet>
 #include <QSettings>
 
@@ -439,6 +443,119 @@ TEST_P(SampleListsTest, EveryDocumentListHoldsDocumentsInEveryStatusAndDueDatesA
 }
 
 QD8_ON_BOTH_ENGINES(SampleListsTest);
+
+// The sample's masters against the company schema: a column T<Prefix><Column> of another table
+// refers to a master's column, so a master row still referred to must not be deleted.
+class SampleReferencesTest : public SampleCompanyTest {
+protected:
+    struct Reference {
+        QString table;
+        QString column;
+        bool operator==(const Reference&) const = default;
+    };
+    struct Master {
+        QString alias;
+        QString table;
+        bool deletes = false;
+        QList<QPair<QString, Reference>> references;  // the master's column, the referring one
+        QList<QPair<QString, Reference>> checks;
+    };
+
+    QList<Master> masters() const
+    {
+        Connection app, data;
+        app.open(appConnectionString());
+        data.open(dataConnectionString());
+        QHash<QString, QStringList> columns;  // lower case: PostgreSQL folds names
+        auto tables = QRegularExpression(QStringLiteral("CREATE TABLE (\\w+)")).globalMatch(Schema::ddl(DatabaseRole::CompanyData));
+        while (tables.hasNext()) {
+            const QString table = tables.next().captured(1).toLower();
+            Recordset rs;
+            rs.open(Sql("SELECT * FROM ") + table + " WHERE 1=0", data);
+            for (int i = 0; i < rs.fieldCount(); ++i)
+                columns[table] << rs.fieldName(i).toLower();
+        }
+        const QRegularExpression prefix(QStringLiteral("^t[a-z0-9]{2,4}$"));
+        QList<Master> result;
+        Recordset forms;
+        forms.open(Sql("SELECT * FROM QD8TQuickForm WHERE TQFmFlag1=1 ORDER BY TQFmAlias"), app);
+        for (; !forms.eof(); forms.moveNext()) {
+            Master m{forms.text("TQFmAlias"), forms.text("TQFmTable").toLower()};
+            m.deletes = forms.field("TQFmCanDelete").toInt() != 0 && forms.field("TQFmReadOnly").toInt() == 0;
+            Recordset fields;
+            fields.open(Sql("SELECT * FROM QD8TQuickField WHERE TQFFFlag1=1 AND TQFFTQFmAlias=") + quoted(m.alias), app);
+            for (; !fields.eof(); fields.moveNext()) {
+                const QString field = fields.text("TQFFFieldName").toLower();
+                for (auto t = columns.cbegin(); t != columns.cend(); ++t)
+                    for (const QString& column : t.value())
+                        if (t.key() != m.table && column.endsWith(field) && prefix.match(column.chopped(field.size())).hasMatch())
+                            m.references.append({field, {t.key(), column}});
+                if (const QString other = fields.text("TQFFCanDeleteAlias"); !other.isEmpty()) {
+                    Recordset named;
+                    named.open(Sql("SELECT * FROM QD8TQuickForm WHERE TQFmAlias=") + quoted(other), app);
+                    EXPECT_FALSE(named.eof()) << other.toStdString();
+                    if (!named.eof())
+                        m.checks.append({field, {named.text("TQFmTable").toLower(), (named.text("TQFmKeyIDEN") + field).toLower()}});
+                }
+            }
+            if (forms.field("TQFmDeleteAuto").toInt() == 1) {
+                const QString column = forms.text("TQFmDeleteField").toLower();
+                const auto referred = std::find_if(m.references.cbegin(), m.references.cend(),
+                    [&](const auto& r) { return r.second == Reference{forms.text("TQFmDeleteTable").toLower(), column}; });
+                m.checks.append({referred == m.references.cend() ? QString() : referred->first, {forms.text("TQFmDeleteTable").toLower(), column}});
+            }
+            result << m;
+        }
+        return result;
+    }
+};
+
+TEST_P(SampleReferencesTest, EveryMasterOthersReferToRefusesToDeleteARowInUse)
+{
+    installScriptedServices();
+    Connection data;
+    data.open(dataConnectionString());
+    int refused = 0;
+    for (const Master& m : masters()) {
+        SCOPED_TRACE(m.alias.toStdString());
+        if (m.references.isEmpty() || !m.deletes)
+            continue;
+        EXPECT_FALSE(m.checks.isEmpty()) << "no in-use check";
+        for (const auto& [field, check] : m.checks) {
+            SCOPED_TRACE((check.table + "." + check.column).toStdString());
+            // A check looks where the master is really referred to.
+            ASSERT_TRUE(m.references.contains(qMakePair(field, check)));
+            Recordset used;
+            used.open(Sql("SELECT ") + check.column + " FROM " + check.table + " WHERE " + check.column + " IS NOT NULL", data);
+            ASSERT_FALSE(used.eof()) << "the sample refers to no row: the check is never tried";
+            const QString key = used.text(0);
+            QuickGrid grid;
+            grid.setConnectionString(appConnectionString());
+            grid.setDataConnectionString(dataConnectionString());
+            grid.SetLast2("C:\\QD8\\", "QuickGrid", "1", dataConnectionString(), appConnectionString());
+            grid.cmdWhereShow(m.alias);
+            grid.buttonClick("Edit");
+            int col = 0;
+            while (col < grid.form().fields.size() && grid.form().fields[col].fieldName.toLower() != field)
+                ++col;
+            int row = 1;
+            while (row <= grid.grid()->Rows() && grid.grid()->TextMatrix(row, col + 1) != key)
+                ++row;
+            ASSERT_LE(row, grid.grid()->Rows()) << key.toStdString();
+            grid.grid()->DeleteRow(row);
+            scriptedMessages().answers = {true};
+            EXPECT_FALSE(grid.save());
+            EXPECT_EQ(scriptedMessages().shown.last().kind, "critical");
+            Recordset still;
+            still.open(Sql("SELECT ") + field + " FROM " + m.table + " WHERE " + field + "=" + quoted(key), data);
+            EXPECT_FALSE(still.eof());
+            ++refused;
+        }
+    }
+    EXPECT_GE(refused, 8);
+}
+
+QD8_ON_BOTH_ENGINES(SampleReferencesTest);
 
 // A company made by qd8-admin init on the engine under test, and the arguments that name
 // its data database to qd8-admin.

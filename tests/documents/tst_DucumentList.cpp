@@ -15,9 +15,10 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTableView>
 #include <QSignalSpy>
+#include <QTableView>
 #include <QTest>
+#include <functional>
 
 using namespace qd8;
 using namespace qd8::test;
@@ -168,13 +169,46 @@ TEST_P(DucumentListTest, EachStatusCodeComposesItsConditionAndListsItsDocuments)
     QSignalSpy failures(&list, &DucumentList::statementFailed);
     for (const auto& c : cases) {
         SCOPED_TRACE(c.index);
-        choose(list, "cboStatus", c.index);
-        list.runQuery();
+        choose(list, "cboStatus", c.index);  // a choice reads the rows again by itself
         EXPECT_EQ(list.selectText().text(), Head + c.condition + " ORDER BY TPRDNo");
         EXPECT_EQ(shown(list), c.documents);
         EXPECT_EQ(failures.size(), c.index >= 9 ? 1 : 0);  // the engine refuses the unknown column, quietly
     }
     EXPECT_TRUE(scriptedMessages().shown.isEmpty());
+}
+
+TEST_P(DucumentListTest, AChangedChoiceOrEnterInAFilterBoxReadsTheRowsAgain)
+{
+    define("TESTPR3", "TFDLFilterStatus, TFDLFilterStatusL, TFDLFilterBackDate, TFDLBACKDAYLIST, TFDLFilter2, TFDLFilter2F",
+        "'6,', 'ยกเลิก,ทั้งหมด', 1, '0,30', 'TPRDRefNo', 'อ้างอิง'");
+    DucumentList list;
+    open(list, "TESTPR3");
+    const auto enter = [&](const char* box, const char* text) {
+        type(list, box, text);
+        QTest::keyClick(list.findChild<QLineEdit*>(box), Qt::Key_Return);
+    };
+    const struct {
+        const char* step;
+        std::function<void()> act;
+        QString sent;           // in the statement read after the step
+        QStringList documents;  // "*": not checked (depends on today)
+    } steps[] = {
+        {"all", [&] { choose(list, "cboStatus", 1); }, Head + " ORDER BY TPRDNo", {"PR01", "PR02", "PR03", "PR04", "PR05", "PR06", "PR07", "PR08"}},
+        {"cancelled", [&] { choose(list, "cboStatus", 0); }, " AND TPRDCancelStatus=1", {"PR07", "PR08"}},
+        {"reference", [&] { enter("txtFilter2", "R-PR07"); }, " AND TPRDRefNo='R-PR07'", {"PR07"}},
+        {"to date", [&] { enter("txtDateTo", "28/02/2026"); }, " AND TPRDDate<=#$2026-02-28#$", {}},
+        {"back days", [&] { choose(list, "cboBackDay", 1); },
+            "TPRDDate>=#$" + QDate::currentDate().addDays(-30).toString(Qt::ISODate) + "#$", {"*"}},
+    };
+    for (const auto& t : steps) {
+        SCOPED_TRACE(t.step);
+        SqlTrace::Recorder trace;
+        t.act();
+        EXPECT_TRUE(list.selectText().text().contains(t.sent)) << list.selectText().text().toStdString();
+        EXPECT_TRUE(trace.composed().contains(list.selectText().text()));
+        if (t.documents != QStringList{"*"})
+            EXPECT_EQ(shown(list), t.documents);
+    }
 }
 
 TEST_P(DucumentListTest, WaitingForApprovalShowsOnlyTheClientsNoteWhenItsFilterIsOn)

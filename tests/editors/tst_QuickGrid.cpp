@@ -10,6 +10,8 @@
 #include "widgets/GridEditorModel.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -74,12 +76,13 @@ protected:
             rows << rs.text("TDivCode") + "|" + rs.text("TDivName") + "|" + QString::number(rs.field("TDivSort").toInt());
         return rows;
     }
-    QStringList visibleButtons() const
+    // The buttons on the bar, those of them a click reaches marked "*".
+    QStringList bar() const
     {
         QStringList keys;
         for (const QString& key : QuickGrid::ButtonKeys)
             if (grid.button(key)->isVisible())
-                keys << key;
+                keys << key + (grid.button(key)->isEnabled() ? "*" : "");
         return keys;
     }
     QuickGrid grid;
@@ -181,23 +184,61 @@ TEST_P(QuickGridTest, SetPermissionAndSetParentFormBindLate)
     EXPECT_EQ(grid.permission(), &rights);
     EXPECT_FALSE(grid.button("Edit")->isEnabled());
     EXPECT_FALSE(grid.button("Print")->isEnabled());
+    grid.cmdWhereShow("QDIV");  // no mode enables a button the rights refuse
+    EXPECT_FALSE(grid.button("Edit")->isEnabled());
     EXPECT_TRUE(grid.button("Close")->isEnabled());  // no right governs it
 }
 
-TEST_P(QuickGridTest, TheToolBarFollowsTheMode)
+TEST_P(QuickGridTest, TheToolBarFollowsTheModeAndKeepsItsPlaces)
 {
-    EXPECT_EQ(visibleButtons(), QStringList{"Close"});
+    EXPECT_EQ(bar(), (QStringList{"Add", "Delete", "Filter", "Edit", "Update", "Cancel", "Close*"}));
     QSignalSpy changed(&grid, &QuickGrid::ChangeGroup);
     grid.cmdWhereShow("QDIV");
     EXPECT_EQ(changed.count(), 1);
-    EXPECT_EQ(visibleButtons(), (QStringList{"Add", "Filter", "Edit", "Close", "Print"}));
+    // A mode disables what it does not show: the others never move.
+    EXPECT_EQ(bar(), (QStringList{"Add*", "Delete", "Filter*", "Edit*", "Update", "Cancel", "Close*", "Print*"}));
     EXPECT_TRUE(grid.grid()->ReadOnly());
     grid.button("Edit")->trigger();
     EXPECT_EQ(grid.RUNMODE(), "EDIT");
-    EXPECT_EQ(visibleButtons(), (QStringList{"Add", "Delete", "Filter", "Update", "Cancel"}));
+    EXPECT_EQ(bar(), (QStringList{"Add*", "Delete*", "Filter*", "Edit", "Update*", "Cancel*", "Close", "Print"}));
     EXPECT_FALSE(grid.grid()->ReadOnly());
     grid.button("Cancel")->trigger();
     EXPECT_EQ(grid.RUNMODE(), "VIEW");
+}
+
+TEST_P(QuickGridTest, EveryCommandHasItsKeyNamedInItsToolTip)
+{
+    const struct {
+        const char* key;
+        QKeySequence keys;
+    } commands[] = {{"Add", Qt::CTRL | Qt::Key_N}, {"Edit", Qt::CTRL | Qt::Key_E}, {"Update", Qt::CTRL | Qt::Key_S},
+        {"Cancel", Qt::Key_Escape}, {"Delete", Qt::CTRL | Qt::Key_Delete}, {"Print", Qt::CTRL | Qt::Key_P}};
+    for (const auto& c : commands) {
+        SCOPED_TRACE(c.key);
+        EXPECT_EQ(grid.button(c.key)->shortcut(), c.keys);
+        EXPECT_EQ(grid.button(c.key)->toolTip(), QString(c.key) + " (" + c.keys.toString(QKeySequence::NativeText) + ")");
+    }
+    // The keys act when focus is in the editor, as a clerk works.
+    grid.show();
+    grid.cmdWhereShow("QDIV");
+    grid.grid()->setFocus();
+    QApplication::setActiveWindow(&grid);
+    QTest::keyClick(grid.grid(), Qt::Key_E, Qt::ControlModifier);
+    EXPECT_EQ(grid.RUNMODE(), "EDIT");
+    grid.grid()->SetValue(1, 2, "บัญชีและการเงิน");
+    scriptedMessages().answers = {false};  // Escape asks before it drops a change
+    QTest::keyClick(grid.grid(), Qt::Key_Escape);
+    EXPECT_EQ(grid.RUNMODE(), "EDIT");
+    EXPECT_TRUE(grid.hasUnsavedChanges());
+    scriptedMessages().answers = {true};
+    QTest::keyClick(grid.grid(), Qt::Key_Escape);
+    EXPECT_EQ(grid.RUNMODE(), "VIEW");
+    EXPECT_FALSE(grid.hasUnsavedChanges());
+    // F2 on the form selector opens the choice of forms.
+    scriptedPicker().answers = {"QDEP"};
+    grid.findChild<QLineEdit*>()->setFocus();
+    QTest::keyClick(grid.findChild<QLineEdit*>(), Qt::Key_F2);
+    EXPECT_EQ(grid.selectedAlias(), "QDEP");
 }
 
 TEST_P(QuickGridTest, SavingWritesEveryMarkedRowAndCountsThem)
@@ -227,6 +268,20 @@ TEST_P(QuickGridTest, SavingWritesEveryMarkedRowAndCountsThem)
     EXPECT_EQ(shown[1].text, "บันทึกข้อมูล  2 รายการ   ลบข้อมูล 1 รายการ เรียบร้อย");
     EXPECT_EQ(grid.RUNMODE(), "VIEW");
     EXPECT_EQ(g->Rows(), 3);
+}
+
+TEST_P(QuickGridTest, TheCursorStaysOnItsRecordWhenASaveReordersTheRows)
+{
+    // Rows are ordered by TDivSort: D01 moves from the first row to the last.
+    grid.cmdWhereShow("QDIV");
+    grid.button("Edit")->trigger();
+    GridEditor* g = grid.grid();
+    g->SetValue(1, 4, 9);
+    g->setRow(1);
+    scriptedMessages().answers = {true};
+    ASSERT_TRUE(grid.save());
+    EXPECT_EQ(g->TextMatrix(g->Row(), 1), "D01");
+    EXPECT_EQ(g->Row(), 3);
 }
 
 TEST_P(QuickGridTest, NothingIsWrittenWhenTheUserSaysNoOrABlankIsLeft)

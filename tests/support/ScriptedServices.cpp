@@ -24,6 +24,17 @@ bool ScriptedMessages::question(const QString& title, const QString& text)
     return answers.takeFirst();
 }
 
+MessageService::SaveAnswer ScriptedMessages::askToSave(const QString& title, const QString& text, int languageId)
+{
+    shown.append({QStringLiteral("save"), title, text});
+    saveLanguages.append(languageId);
+    if (saveAnswers.isEmpty()) {
+        ADD_FAILURE() << "unscripted save question: " << text.toStdString();
+        return SaveAnswer::Cancel;
+    }
+    return saveAnswers.takeFirst();
+}
+
 int ScriptedPicker::choose(const QString& title, const QStringList&, int)
 {
     choiceTitles << title;

@@ -21,9 +21,15 @@ public:
     // Answers from the queue; an unscripted question fails the test and answers No.
     bool question(const QString& title, const QString& text) override;
 
+    // Answers from `saveAnswers` (shown as kind "save", the buttons' language in `saveLanguages`);
+    // an unscripted one fails the test and answers Cancel.
+    SaveAnswer askToSave(const QString& title, const QString& text, int languageId) override;
+
     QList<bool> answers;
+    QList<SaveAnswer> saveAnswers;
+    QList<int> saveLanguages;
     QList<Shown> shown;
-    void reset() { answers.clear(); shown.clear(); }
+    void reset() { answers.clear(); saveAnswers.clear(); saveLanguages.clear(); shown.clear(); }
 };
 
 class ScriptedPicker : public PickerService {

@@ -278,6 +278,53 @@ TEST_P(WorkbenchTest, AClerkMaintainsAMasterTableFromTheRibbon)
     EXPECT_EQ(editor->grid()->TextMatrix(0, 1), "รหัส");
 }
 
+TEST_P(WorkbenchTest, ClosingATabOrTheWindowAsksBeforeUnsavedWorkIsDropped)
+{
+    using Answer = MessageService::SaveAnswer;
+    const struct {
+        const char* user;
+        bool window;           // close the main window, else the tab's ×
+        const char* typed;     // the English name of D01 typed before closing; "" types nothing
+        QList<Answer> answer;  // none: it must not ask
+        bool closed;
+        const char* stored;
+    } cases[] = {
+        {"SOMCHAI", false, "", {}, true, "Accounting & Finance"},
+        {"SOMCHAI", false, "Finance", {Answer::Cancel}, false, "Accounting & Finance"},
+        {"JOHN", false, "Finance", {Answer::Discard}, true, "Accounting & Finance"},
+        {"JOHN", false, "Finance", {Answer::Save}, true, "Finance"},
+        {"SOMCHAI", true, "Treasury", {Answer::Cancel}, false, "Finance"},
+        {"JOHN", true, "Treasury", {Answer::Save}, true, "Treasury"},
+    };
+    for (const auto& t : cases) {
+        SCOPED_TRACE(std::string(t.user) + (t.window ? " window " : " tab ") + t.typed);
+        scriptedMessages().reset();
+        auto window = open(t.user, "HR");
+        window->launch("DIVISION");
+        auto* editor = qobject_cast<QuickGrid*>(window->tabs()->currentWidget());
+        ASSERT_TRUE(editor);
+        editor->buttonClick("Edit");
+        if (*t.typed)
+            editor->grid()->SetValue(1, 3, QString::fromUtf8(t.typed));
+        EXPECT_EQ(editor->hasUnsavedChanges(), *t.typed != 0);
+        scriptedMessages().saveAnswers = t.answer;
+        scriptedMessages().answers = {true};  // the editor's own confirmation of a save
+        if (t.window)
+            window->close();
+        else
+            emit window->tabs()->tabCloseRequested(window->tabs()->currentIndex());
+        EXPECT_EQ(window->tabs()->count(), t.closed ? 0 : 1);
+        EXPECT_EQ(window->isVisible(), !(t.window && t.closed));
+        const int language = QLatin1String(t.user) == QLatin1String("JOHN") ? 1 : 0;
+        EXPECT_EQ(scriptedMessages().saveLanguages, QList<int>(t.answer.size(), language));
+        Connection c;
+        c.open(dataConnectionString());
+        Recordset rs;
+        rs.open("SELECT TDivName2 FROM QD8TDivision WHERE TDivCode='D01'", c);
+        EXPECT_EQ(rs.text("TDivName2"), t.stored);
+    }
+}
+
 TEST_P(WorkbenchTest, AClerkFiltersADocumentListAndOpensADocumentInEachMode)
 {
     auto window = open("SOMCHAI", "IC");
