@@ -74,7 +74,9 @@ int AdminCommand::run(const QStringList& arguments)
         if (arguments[0] == QLatin1String("generate"))
             return generate(arguments.mid(1));
     } catch (const DbError& e) {
-        m_err << "qd8-admin: " << e.message() << '\n';
+        m_err << "qd8-admin: " << e.userText(1) << '\n';
+        if (const QString detail = e.detail(1); !detail.isEmpty())
+            m_err << "  " << detail << '\n';
         if (!e.statement().isEmpty())
             m_err << "  while running: " << e.statement().left(400) << '\n';
         m_err.flush();

@@ -26,7 +26,7 @@ QVariant ListService::LookupValue(const QVariant& defaultValue, int, int, const 
     case QMetaType::UInt:
     case QMetaType::ULongLong:
     case QMetaType::Double:
-        value = Sql(text(conditionValue));
+        value = number(text(conditionValue));
         break;
     default:
         value = quoted(text(conditionValue));

@@ -91,7 +91,11 @@ QList<Schema::Problem> missing(Connection& connection, DatabaseRole role, const 
         QStringList present;
         try {
             present = columnsOf(connection, name);
-        } catch (const DbError&) {
+        } catch (const DbError& error) {
+            // Only the engine's "no such table" means missing; a file that cannot be read
+            // is reported as such, not as every table missing.
+            if (error.kind() != DbError::Kind::Engine)
+                throw;
             problems.append({name, {}});
             if (connection.inTransaction())
                 connection.rollbackTrans();

@@ -15,6 +15,12 @@ QList<int> QuickFormDefinition::keyColumns() const
     return columns;
 }
 
+const QuickFieldDefinition& QuickFormDefinition::keyDefinition() const
+{
+    static const QuickFieldDefinition none;
+    return keyColumn >= 1 && keyColumn <= fields.size() ? fields[keyColumn - 1] : none;
+}
+
 QuickFormDefinition QuickFormDefinition::load(Connection& app, const QString& alias, int languageId)
 {
     return fromMetadata(QuickFormMetadata::read(app, alias, QuickFormMetadata::Reading::Editor), languageId);

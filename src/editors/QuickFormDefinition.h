@@ -61,7 +61,8 @@ struct QuickFormDefinition {
     QList<QuickFieldDefinition> fields;  // grid columns 1..n, the flag column last
 
     bool isLoaded() const { return !alias.isEmpty(); }
-    const QuickFieldDefinition& keyDefinition() const { return fields.at(keyColumn - 1); }
+    // The last key column; an empty definition when the form has none.
+    const QuickFieldDefinition& keyDefinition() const;
     // The key columns (grid numbers), in order.
     QList<int> keyColumns() const;
 

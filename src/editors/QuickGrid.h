@@ -16,6 +16,7 @@ namespace qd8 {
 
 class Connection;
 class GridEditor;
+class ProgressScope;
 
 // Edits a simple master table of the company data (divisions, units, employee types...)
 // described by a quick form: QD8TQuickForm/QD8TQuickField of the application database say
@@ -123,8 +124,12 @@ private:
     QString blankProblem() const;
     // The first key marked for deletion that is still in use, as its message.
     QString inUseProblem(Connection& data) const;
-    void writeRows(Connection& data, int& saved, int& deleted);
-    // "key=value" (quoted for a TEXT key) for the row's stored key, every key column of the form.
+    // A form without a key column cannot find its rows again: its message when rows wait.
+    QString keyProblem() const;
+    // Writes the marked rows, stepping `progress` per row; false when the user cancelled.
+    bool writeRows(Connection& data, ProgressScope& progress, int& saved, int& deleted);
+    // "key=value" (quoted for a TEXT key, checked to be a number otherwise) for the row's
+    // stored key, every key column of the form.
     Sql keyCondition(int row) const;
     QVariant keyValue(int row, int col) const;
 

@@ -41,10 +41,11 @@ bool QuickGrid::save()
             QStringLiteral("การใช้เครื่องมือ แสดงเฉพาะ ช่วยกรองข้อมูล อาจทำให้ข้อมูลที่ไม่แสดงถูกทับด้วยข้อมูลที่แสดงอยู่นี้") + QLatin1Char('\n')
                 + QStringLiteral("ท่านต้องการบันทึกข้อมูลที่เปลี่ยนแปลงนี้") + QStringLiteral(" ใช่หรือไม่")))
         return false;
-    const QString blank = blankProblem();
-    if (!blank.isEmpty()) {
-        messages.critical(m_form.caption, blank);
-        return false;
+    for (const QString& problem : {blankProblem(), keyProblem()}) {
+        if (!problem.isEmpty()) {
+            messages.critical(m_form.caption, problem);
+            return false;
+        }
     }
     int saved = 0, deleted = 0;
     try {
@@ -55,13 +56,18 @@ bool QuickGrid::save()
             messages.critical(m_form.caption, inUse);
             return false;
         }
-        // All rows or none: a failure anywhere leaves the table as it was and the grid as
-        // the user left it.
+        // All rows or none: a failure anywhere, or Cancel before the commit, leaves the
+        // table as it was and the grid as the user left it.
         TransactionGuard transaction(data);
-        writeRows(data, saved, deleted);
+        ProgressScope progress(m_form.caption, bilingual("กำลังบันทึกข้อมูล", "Saving"), 2 * qint64(m_grid->Rows()));
+        if (!writeRows(data, progress, saved, deleted)) {
+            messages.information(m_form.caption, bilingual("ยกเลิกการบันทึกแล้ว ไม่มีข้อมูลใดถูกบันทึก", "Saving cancelled: nothing was written"));
+            return false;
+        }
         transaction.commit();
     } catch (const DbError& error) {
-        messages.critical(m_form.caption, error.message());
+        const QString detail = error.detail(LanguageID());
+        messages.critical(m_form.caption, error.userText(LanguageID()) + (detail.isEmpty() ? QString() : QStringLiteral("\n\n") + detail));
         return false;
     }
     messages.information(m_form.caption, QStringLiteral("บันทึกข้อมูล  ") + QString::number(saved) + QStringLiteral(" รายการ   ลบข้อมูล ")
@@ -84,6 +90,16 @@ QString QuickGrid::blankProblem() const
     return {};
 }
 
+QString QuickGrid::keyProblem() const
+{
+    if (!m_form.keyColumns().isEmpty())
+        return {};
+    for (int row = 1; row <= m_grid->Rows(); ++row)
+        if (m_grid->RowMark(row) == QLatin1String("D") || m_grid->RowMark(row) == QLatin1String("E"))
+            return bilingual("แบบฟอร์มนี้ไม่มีช่องรหัส จึงบันทึกหรือลบรายการไม่ได้", "This form has no key column, so its entries cannot be saved or deleted");
+    return {};
+}
+
 QVariant QuickGrid::keyValue(int row, int col) const
 {
     // A row read from the table is found by the key it was read with.
@@ -99,7 +115,7 @@ Sql QuickGrid::keyCondition(int row) const
         if (!condition.text().isEmpty())
             condition += " AND ";
         condition += key.fieldName + QStringLiteral("=");
-        condition += key.type == QLatin1String("TEXT") ? quoted(value) : Sql(value);
+        condition += key.type == QLatin1String("TEXT") ? quoted(value) : number(value);
     }
     return condition;
 }
@@ -155,18 +171,37 @@ QString QuickGrid::inUseProblem(Connection& data) const
     return {};
 }
 
-void QuickGrid::writeRows(Connection& data, int& saved, int& deleted)
+bool QuickGrid::writeRows(Connection& data, ProgressScope& progress, int& saved, int& deleted)
 {
     const QuickFieldDefinition& key = m_form.keyDefinition();
+    const auto inRow = [this](int row, const DbError& error) {
+        DbError named(error.kind(), error.message(), error.statement());
+        named.explain(bilingual("รายการที่ %1: %2", "Row %1: %2").arg(row).arg(error.userText(LanguageID())));
+        return named;
+    };
     for (int row = 1; row <= m_grid->Rows(); ++row) {
         if (m_grid->RowMark(row) != QLatin1String("D") || qd8::text(keyValue(row, m_form.keyColumn)).isEmpty())
             continue;
-        data.execute(Sql("DELETE  FROM ") + m_form.table + " WHERE " + keyCondition(row));
-        ++deleted;
+        if (!progress.step(row))
+            return false;
+        try {
+            // What the engine really removed: more than one row means the form's key does not
+            // name one entry, and the whole save is undone.
+            const qint64 removed = data.execute(Sql("DELETE  FROM ") + m_form.table + " WHERE " + keyCondition(row));
+            if (removed > 1)
+                throw DbError(DbError::Kind::Conflict, QStringLiteral("DELETE removed %1 rows").arg(removed))
+                    .explain(bilingual("รหัสของรายการนี้ตรงกับ %1 รายการ จึงไม่ลบ", "The key of this entry matches %1 entries, so none is deleted")
+                                 .arg(removed));
+            deleted += int(removed);
+        } catch (const DbError& error) {
+            throw inRow(row, error);
+        }
     }
     for (int row = 1; row <= m_grid->Rows(); ++row) {
         if (m_grid->RowMark(row) != QLatin1String("E"))
             continue;
+        if (!progress.step(m_grid->Rows() + row))
+            return false;
         const bool loaded = row <= m_loaded.size();
         try {
             Recordset rs;
@@ -175,14 +210,15 @@ void QuickGrid::writeRows(Connection& data, int& saved, int& deleted)
                 rs.open(Sql("SELECT * FROM ") + m_form.table + " WHERE " + keyCondition(row), data, Recordset::adOpenKeyset,
                     Recordset::adLockOptimistic);
             if (loaded && (fresh || rs.eof()))
-                throw DbError(DbError::Kind::Conflict, bilingual("ผู้ใช้อื่นลบรายการนี้ไปแล้ว", "Another user deleted this entry"));
+                throw DbError(DbError::Kind::Conflict, QStringLiteral("The row is gone")).explain(bilingual("ผู้ใช้อื่นลบรายการนี้ไปแล้ว", "Another user deleted this entry"));
             if (loaded) {
                 for (int col = 1; col <= m_form.fields.size(); ++col)
                     if (qd8::text(rs.field(m_form.fields[col - 1].fieldName)) != qd8::text(m_loaded[row - 1].value(col - 1)))
-                        throw DbError(DbError::Kind::Conflict, bilingual("ผู้ใช้อื่นแก้ไขรายการนี้ไปแล้ว", "Another user changed this entry"));
+                        throw DbError(DbError::Kind::Conflict, QStringLiteral("The row differs from the one read"))
+                            .explain(bilingual("ผู้ใช้อื่นแก้ไขรายการนี้ไปแล้ว", "Another user changed this entry"));
             } else if (!fresh && !rs.eof()) {
-                throw DbError(DbError::Kind::Conflict, bilingual("%1 %2 มีอยู่แล้ว", "%1 %2 already exists")
-                                                           .arg(plainCaption(key), qd8::text(m_grid->GetValue(row, m_form.keyColumn))));
+                throw DbError(DbError::Kind::Conflict, QStringLiteral("The key exists"))
+                    .explain(bilingual("%1 %2 มีอยู่แล้ว", "%1 %2 already exists").arg(plainCaption(key), qd8::text(m_grid->GetValue(row, m_form.keyColumn))));
             }
             if (fresh) {
                 rs.open(Sql("SELECT * FROM ") + m_form.table + " WHERE 1=0", data, Recordset::adOpenKeyset, Recordset::adLockOptimistic);
@@ -202,9 +238,11 @@ void QuickGrid::writeRows(Connection& data, int& saved, int& deleted)
             rs.update();
             ++saved;
         } catch (const DbError& error) {
-            throw DbError(error.kind(), bilingual("รายการที่ %1: %2", "Row %1: %2").arg(row).arg(error.message()), error.statement());
+            throw inRow(row, error);
         }
     }
+    // The last chance to cancel: after the commit the rows are written.
+    return progress.step(2 * qint64(m_grid->Rows()));
 }
 
 void QuickGrid::print()

@@ -15,16 +15,31 @@ struct Connection::State {
 
 namespace {
 
+DbError refusal(const Sql& sql)
+{
+    const QString value = sql.brokenValue();
+    if (sql.flaw() == Sql::Flaw::NotANumber)
+        return DbError(DbError::Kind::Refused,
+            QStringLiteral("Statement refused: the value \"%1\" stands where a number belongs and is not a plain number").arg(value),
+            sql.text())
+            .explain(QStringLiteral("\"%1\" ไม่ใช่ตัวเลข").arg(value), QStringLiteral("\"%1\" is not a number").arg(value));
+    return DbError(DbError::Kind::Refused,
+        QStringLiteral("Statement refused: the text value \"%1\" holds a single quote, "
+                       "which cannot stand between the quotes of the statement")
+            .arg(value),
+        sql.text())
+        .explain(QStringLiteral("ค่า \"%1\" มีเครื่องหมาย ' ซึ่งใช้ไม่ได้").arg(value),
+            QStringLiteral("The value \"%1\" holds a single quote ('), which cannot be used").arg(value));
+}
+
 // Refusal, dialect rewrite and tracing around one statement.
 template <typename Run>
 auto traced(Backend& backend, const QString& connectionString, const Sql& sql, Run&& run)
 {
     if (sql.isBroken()) {
-        const QString message = QStringLiteral("Statement refused: the text value \"%1\" holds a single quote, "
-                                               "which cannot stand between the quotes of the statement")
-                                    .arg(sql.brokenValue());
-        SqlTrace::report({sql.text(), {}, connectionString, true, message});
-        throw DbError(DbError::Kind::Refused, message, sql.text());
+        DbError refused = refusal(sql);
+        SqlTrace::report({sql.text(), {}, connectionString, true, refused.message()});
+        throw refused;
     }
     QString sent;
     try {

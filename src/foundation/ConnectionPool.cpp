@@ -48,8 +48,16 @@ std::unique_ptr<Backend> ConnectionPool::acquire(const QString& connectionString
         while (!s.idle.empty()) {
             std::unique_ptr<Backend> backend = std::move(s.idle.back());
             s.idle.pop_back();
-            if (backend->validate())
-                return backend;
+            try {
+                if (backend->validate())
+                    return backend;
+            } catch (const DbError&) {
+                // The database is no longer the one these connections opened (a replaced
+                // SQLite file): this operation fails with the reason, and the next one opens
+                // what is there now.
+                s.idle.clear();
+                throw;
+            }
         }
         cs = s.parsed;
     }

@@ -11,7 +11,8 @@ namespace qd8 {
 
 // Physical connections kept between the controls' per-operation open/close, keyed by
 // connection string. A backend handed out is validated first (a PostgreSQL server restarted
-// meanwhile is reconnected to); one handed back is rolled back if it still holds an open
+// meanwhile is reconnected to; a SQLite file deleted or replaced fails that checkout, naming
+// the file, and drops the idle connections to it); one handed back is rolled back if it still holds an open
 // transaction. At most maxIdle() idle connections are kept per connection string.
 class ConnectionPool {
 public:

@@ -230,6 +230,14 @@ PostgresBackend::PostgresBackend(const ConnectionString& cs)
             QStringLiteral("Cannot connect to PostgreSQL database \"%1\": %2").arg(cs.value({"database", "initial catalog", "dbname"}), message));
     }
     PQsetNoticeProcessor(m_conn, [](void*, const char*) {}, nullptr);
+    m_database = cs.value({"database", "initial catalog", "dbname"});
+    setLockTimeout();
+}
+
+void PostgresBackend::setLockTimeout()
+{
+    // A row another user holds locked is waited for as long as SQLite waits, then reported.
+    PQclear(PQexec(m_conn, QStringLiteral("SET lock_timeout = %1").arg(LockTimeoutMs).toUtf8().constData()));
 }
 
 PostgresBackend::~PostgresBackend()
@@ -242,7 +250,10 @@ bool PostgresBackend::reconnect()
     m_prepared.clear();
     m_seen.clear();
     PQreset(m_conn);
-    return PQstatus(m_conn) == CONNECTION_OK;
+    if (PQstatus(m_conn) != CONNECTION_OK)
+        return false;
+    setLockTimeout();
+    return true;
 }
 
 bool PostgresBackend::validate()
@@ -324,6 +335,12 @@ PGresult* PostgresBackend::run(const QString& sql, const QVariantList& params)
         if (state && QByteArrayView(state) == "0A000" && m_prepared.contains(sql))
             m_prepared.remove(sql);  // plan outdated by a schema change; prepare again next time
         PQclear(result);
+        if (state && (QByteArrayView(state) == "55P03" || QByteArrayView(state) == "40P01"))
+            throw DbError(DbError::Kind::Locked, message, sql)
+                .explain(QStringLiteral("ฐานข้อมูล \"%1\" มีโปรแกรมหรือผู้ใช้อื่นกำลังบันทึกรายการเดียวกันอยู่ รอแล้ว %2 วินาที กรุณาลองใหม่เมื่อเสร็จแล้ว")
+                             .arg(m_database).arg(LockTimeoutMs / 1000),
+                    QStringLiteral("Another program or user is writing the same entries of the database \"%1\"; waited %2 s for it. Try again when it is done.")
+                        .arg(m_database).arg(LockTimeoutMs / 1000));
         throw DbError(lost ? DbError::Kind::Connection : DbError::Kind::Engine, message, sql);
     }
     return result;

@@ -29,13 +29,17 @@ public:
     QStringList primaryKey(const QString& table) override;
     QString placeholder(int n) const override { return QLatin1Char('$') + QString::number(n); }
 
+    static constexpr int LockTimeoutMs = 10000;
+
 private:
+    void setLockTimeout();
     pg_result* run(const QString& sql, const QVariantList& params);
     pg_result* send(const QByteArray& sql, const QString& text, const QVariantList& params);
     bool reconnect();
     void simple(const char* sql);
 
     QByteArray m_connInfo;
+    QString m_database;
     pg_conn* m_conn = nullptr;
     QHash<QString, QByteArray> m_prepared;  // statement text → prepared name
     QHash<QString, int> m_seen;

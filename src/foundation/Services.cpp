@@ -10,6 +10,14 @@ struct Slot {
     MessageService* messages = nullptr;
     PickerService* picker = nullptr;
     ShellService* shell = nullptr;
+    ProgressService* progress = nullptr;
+};
+
+class SilentProgress final : public ProgressService {
+public:
+    void begin(const QString&, const QString&, qint64) override {}
+    bool step(qint64) override { return true; }
+    void end() override {}
 };
 Slot installed;
 Slot defaults;
@@ -29,13 +37,20 @@ T& pick(T* current, T* fallback, const char* what)
 MessageService& Services::messages() { return pick(installed.messages, defaults.messages, "message"); }
 PickerService& Services::picker() { return pick(installed.picker, defaults.picker, "pick-list"); }
 ShellService& Services::shell() { return pick(installed.shell, defaults.shell, "shell"); }
+ProgressService& Services::progress()
+{
+    static SilentProgress silent;
+    return installed.progress ? *installed.progress : defaults.progress ? *defaults.progress : silent;
+}
+
 void Services::setMessages(MessageService* service) { installed.messages = service; }
 void Services::setPicker(PickerService* service) { installed.picker = service; }
 void Services::setShell(ShellService* service) { installed.shell = service; }
+void Services::setProgress(ProgressService* service) { installed.progress = service; }
 
-void Services::setDefaults(MessageService* messages, PickerService* picker, ShellService* shell)
+void Services::setDefaults(MessageService* messages, PickerService* picker, ShellService* shell, ProgressService* progress)
 {
-    defaults = {messages, picker, shell};
+    defaults = {messages, picker, shell, progress};
 }
 
 } // namespace qd8

@@ -69,6 +69,19 @@ public:
     virtual bool openUrl(const QString& url) = 0;
 };
 
+// How far a long operation is (a save of many rows, a wait for a locked database). The Qt
+// implementation shows a dialog with a Cancel button only once the operation has run for a
+// moment, so short ones show nothing. Operations may nest (a wait inside a save).
+class ProgressService {
+public:
+    virtual ~ProgressService() = default;
+    // `total` steps, 0 when not known.
+    virtual void begin(const QString& title, const QString& text, qint64 total) = 0;
+    // `done` steps so far; false once the user asked to cancel.
+    virtual bool step(qint64 done) = 0;
+    virtual void end() = 0;
+};
+
 // The services in force. Setting one does not take ownership; pass nullptr to return to
 // the default. Calling a service none has been installed for throws std::logic_error.
 class Services {
@@ -76,11 +89,26 @@ public:
     static MessageService& messages();
     static PickerService& picker();
     static ShellService& shell();
+    // Reports nothing when none is installed: the data layer also runs without widgets.
+    static ProgressService& progress();
     static void setMessages(MessageService* service);
     static void setPicker(PickerService* service);
     static void setShell(ShellService* service);
+    static void setProgress(ProgressService* service);
     // Used by the widgets layer to install the Qt implementations.
-    static void setDefaults(MessageService* messages, PickerService* picker, ShellService* shell);
+    static void setDefaults(MessageService* messages, PickerService* picker, ShellService* shell,
+        ProgressService* progress = nullptr);
+};
+
+// One operation on the progress service in force, ended when the scope ends.
+class ProgressScope {
+public:
+    ProgressScope(const QString& title, const QString& text, qint64 total) { Services::progress().begin(title, text, total); }
+    ~ProgressScope() { Services::progress().end(); }
+    ProgressScope(const ProgressScope&) = delete;
+    ProgressScope& operator=(const ProgressScope&) = delete;
+    // False once the user asked to cancel.
+    bool step(qint64 done) { return Services::progress().step(done); }
 };
 
 } // namespace qd8

@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QDateTime>
+#include <QRegularExpression>
 
 namespace qd8 {
 
@@ -9,15 +10,31 @@ Sql Sql::quoted(const QString& value)
 {
     Sql sql(QLatin1Char('\'') + value + QLatin1Char('\''));
     if (value.contains(QLatin1Char('\'')))
-        sql.m_brokenValue = value;
+        sql.breakBy(Flaw::QuoteInText, value);
     return sql;
+}
+
+Sql Sql::number(const QString& value)
+{
+    // An optional minus, digits, and at most one decimal point with digits after it.
+    static const QRegularExpression plain(QStringLiteral("\\A-?[0-9]+(\\.[0-9]+)?\\z"));
+    Sql sql(value);
+    if (!plain.match(value).hasMatch())
+        sql.breakBy(Flaw::NotANumber, value);
+    return sql;
+}
+
+void Sql::breakBy(Flaw flaw, const QString& value)
+{
+    m_flaw = flaw;
+    m_brokenValue = value;
 }
 
 Sql& Sql::operator+=(const Sql& other)
 {
     m_text += other.m_text;
     if (!isBroken() && other.isBroken())
-        m_brokenValue = other.m_brokenValue;
+        breakBy(other.m_flaw, other.m_brokenValue);
     return *this;
 }
 

@@ -3,12 +3,16 @@
 #include "foundation/Currency.h"
 #include "foundation/DbError.h"
 #include "foundation/RowStore.h"
+#include "foundation/Services.h"
 #include "foundation/ThaiCollation.h"
 
 #include <QFileInfo>
 #include <QDate>
 #include <QDateTime>
+#include <QScopeGuard>
 #include <sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace qd8 {
 
@@ -227,21 +231,32 @@ void bind(sqlite3_stmt* stmt, int index, const QVariant& v)
 } // namespace
 
 SqliteBackend::SqliteBackend(const ConnectionString& cs)
+    : m_file(cs.sqliteFile())
 {
-    const QByteArray file = cs.sqliteFile().toUtf8();
-    const bool readOnly = cs.value({"mode"}).compare(QLatin1String("ReadOnly"), Qt::CaseInsensitive) == 0;
+    const QByteArray file = m_file.toUtf8();
     const bool create = cs.value({"create"}).compare(QLatin1String("yes"), Qt::CaseInsensitive) == 0
         || cs.value({"create"}) == QLatin1String("1");
-    const int flags = (readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | (create ? SQLITE_OPEN_CREATE : 0))
+    // A company the user may only read (the file, or the folder its journal lives in) opens
+    // for viewing; writes are refused with a message instead of failing in the engine.
+    const QByteArray folder = QFileInfo(m_file).absolutePath().toUtf8();
+    m_readOnly = cs.value({"mode"}).compare(QLatin1String("ReadOnly"), Qt::CaseInsensitive) == 0
+        || (::access(file.constData(), F_OK) == 0 && (::access(file.constData(), W_OK) != 0 || ::access(folder.constData(), W_OK) != 0));
+    const int flags = (m_readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | (create ? SQLITE_OPEN_CREATE : 0))
         | SQLITE_OPEN_NOMUTEX;
     if (sqlite3_open_v2(file.constData(), &m_db, flags, nullptr) != SQLITE_OK) {
         const QString message = m_db ? QString::fromUtf8(sqlite3_errmsg(m_db)) : QStringLiteral("out of memory");
         sqlite3_close_v2(m_db);
         m_db = nullptr;
-        throw DbError(DbError::Kind::Connection,
-            QStringLiteral("Cannot open the database file \"%1\": %2").arg(cs.sqliteFile(), message));
+        throw DbError(DbError::Kind::Connection, QStringLiteral("Cannot open the database file \"%1\": %2").arg(m_file, message))
+            .explain(QStringLiteral("เปิดแฟ้มข้อมูล \"%1\" ไม่ได้").arg(m_file), QStringLiteral("The database file \"%1\" cannot be opened").arg(m_file));
     }
-    sqlite3_busy_timeout(m_db, BusyTimeoutMs);
+    struct stat info;
+    if (::stat(file.constData(), &info) == 0) {
+        m_identityKnown = true;
+        m_device = info.st_dev;
+        m_inode = info.st_ino;
+    }
+    sqlite3_busy_handler(m_db, &SqliteBackend::busyWait, this);
     sqlite3_extended_result_codes(m_db, 1);
     if (registerThaiCollation(m_db) != SQLITE_OK) {
         sqlite3_close_v2(m_db);
@@ -249,7 +264,7 @@ SqliteBackend::SqliteBackend(const ConnectionString& cs)
         throw DbError(DbError::Kind::Connection, QStringLiteral("Cannot register the THAI collation (ICU th_TH missing)"));
     }
     try {
-        if (!readOnly) {
+        if (!m_readOnly) {
             run("PRAGMA journal_mode=WAL");
             run("PRAGMA synchronous=NORMAL");
         }
@@ -259,6 +274,68 @@ SqliteBackend::SqliteBackend(const ConnectionString& cs)
         m_db = nullptr;
         throw;
     }
+}
+
+int SqliteBackend::busyWait(void* self, int count)
+{
+    // Another connection holds the write lock: wait as long as the busy timeout allows,
+    // saying who waits for what, and give up early when the user cancels.
+    auto* backend = static_cast<SqliteBackend*>(self);
+    if (count == 0) {
+        backend->m_busySince.start();
+        if (!backend->m_busyShown) {
+            Services::progress().begin(QStringLiteral("QD8"),
+                QStringLiteral("รอโปรแกรมหรือผู้ใช้อื่นที่กำลังบันทึกแฟ้ม \"%1\"\nWaiting for another program or user writing to \"%1\"")
+                    .arg(backend->m_file),
+                BusyTimeoutMs);
+            backend->m_busyShown = true;
+        }
+    }
+    const qint64 waited = backend->m_busySince.elapsed();
+    if (waited >= BusyTimeoutMs || !Services::progress().step(waited))
+        return 0;
+    sqlite3_sleep(20);
+    return 1;
+}
+
+void SqliteBackend::endBusyWait()
+{
+    if (!m_busyShown)
+        return;
+    m_busyShown = false;
+    Services::progress().end();
+}
+
+bool SqliteBackend::validate()
+{
+    if (!m_db)
+        return false;
+    checkFile();
+    return true;
+}
+
+void SqliteBackend::checkFile() const
+{
+    if (!m_identityKnown)
+        return;
+    struct stat info;
+    if (::stat(m_file.toUtf8().constData(), &info) != 0)
+        throw DbError(DbError::Kind::Connection,
+            QStringLiteral("The database file \"%1\" was deleted or moved after it was opened; nothing more is written to it").arg(m_file))
+            .explain(QStringLiteral("แฟ้มข้อมูล \"%1\" ถูกลบหรือย้ายไปหลังจากเปิดใช้งาน จึงไม่ได้บันทึกข้อมูลนี้").arg(m_file),
+                QStringLiteral("The company file \"%1\" was deleted or moved while in use, so this was not saved").arg(m_file));
+    if (info.st_dev != m_device || info.st_ino != m_inode)
+        throw DbError(DbError::Kind::Connection,
+            QStringLiteral("The database file \"%1\" was replaced by another file after it was opened; nothing more is written to the old one").arg(m_file))
+            .explain(QStringLiteral("แฟ้มข้อมูล \"%1\" ถูกแทนที่ด้วยแฟ้มอื่นหลังจากเปิดใช้งาน จึงไม่ได้บันทึกข้อมูลนี้ กรุณาเปิดใหม่อีกครั้ง").arg(m_file),
+                QStringLiteral("The company file \"%1\" was replaced by another file while in use, so this was not saved; open it again").arg(m_file));
+}
+
+void SqliteBackend::refuseWrite(const QString& sql) const
+{
+    throw DbError(DbError::Kind::ReadOnly, QStringLiteral("The database file \"%1\" is open read-only").arg(m_file), sql)
+        .explain(QStringLiteral("แฟ้มข้อมูล \"%1\" เปิดได้เพื่อดูเท่านั้น บันทึกการเปลี่ยนแปลงไม่ได้").arg(m_file),
+            QStringLiteral("The company file \"%1\" is open for viewing only; changes cannot be saved").arg(m_file));
 }
 
 void SqliteBackend::attach(const QString& files)
@@ -286,19 +363,31 @@ SqliteBackend::~SqliteBackend()
 
 void SqliteBackend::fail(const QString& sql) const
 {
-    const int code = sqlite3_extended_errcode(m_db);
-    const auto kind = (code & 0xff) == SQLITE_CANTOPEN || (code & 0xff) == SQLITE_NOTADB ? DbError::Kind::Connection
-                                                                                          : DbError::Kind::Engine;
-    throw DbError(kind, QString::fromUtf8(sqlite3_errmsg(m_db)), sql);
+    const int code = sqlite3_extended_errcode(m_db) & 0xff;
+    const QString message = QString::fromUtf8(sqlite3_errmsg(m_db));
+    if (code == SQLITE_BUSY || code == SQLITE_LOCKED)
+        throw DbError(DbError::Kind::Locked, message, sql)
+            .explain(QStringLiteral("โปรแกรมหรือผู้ใช้อื่นกำลังบันทึกแฟ้มข้อมูล \"%1\" อยู่ รอแล้ว %2 วินาที กรุณาลองใหม่เมื่อเสร็จแล้ว")
+                         .arg(m_file).arg(BusyTimeoutMs / 1000),
+                QStringLiteral("Another program or user is writing to the company file \"%1\"; waited up to %2 s for it. Try again when it is done.")
+                    .arg(m_file).arg(BusyTimeoutMs / 1000));
+    if (code == SQLITE_READONLY)
+        refuseWrite(sql);
+    const bool lost = code == SQLITE_CANTOPEN || code == SQLITE_NOTADB || code == SQLITE_IOERR || code == SQLITE_CORRUPT;
+    DbError error(lost ? DbError::Kind::Connection : DbError::Kind::Engine, message, sql);
+    if (lost)
+        error.explain(QStringLiteral("อ่านหรือเขียนแฟ้มข้อมูล \"%1\" ไม่ได้").arg(m_file),
+            QStringLiteral("The company file \"%1\" cannot be read or written").arg(m_file));
+    throw error;
 }
 
 void SqliteBackend::run(const char* sql)
 {
+    const auto waited = qScopeGuard([this] { endBusyWait(); });
     char* error = nullptr;
     if (sqlite3_exec(m_db, sql, nullptr, nullptr, &error) != SQLITE_OK) {
-        const QString message = QString::fromUtf8(error ? error : sqlite3_errmsg(m_db));
         sqlite3_free(error);
-        throw DbError(DbError::Kind::Engine, message, QString::fromUtf8(sql));
+        fail(QString::fromUtf8(sql));
     }
 }
 
@@ -341,6 +430,7 @@ void SqliteBackend::finish(sqlite3_stmt* stmt, const QString&)
 
 std::unique_ptr<ResultData> SqliteBackend::query(const QString& sql, const QVariantList& params)
 {
+    const auto waited = qScopeGuard([this] { endBusyWait(); });
     sqlite3_stmt* stmt = prepare(sql, params);
     auto result = std::make_unique<SqliteResult>(stmt);
     int rc;
@@ -356,7 +446,15 @@ std::unique_ptr<ResultData> SqliteBackend::query(const QString& sql, const QVari
 
 qint64 SqliteBackend::execute(const QString& sql, const QVariantList& params)
 {
+    const auto waited = qScopeGuard([this] { endBusyWait(); });
+    // A write outside a transaction checks the file here; in one, begin and commit do.
+    if (!inTransaction())
+        checkFile();
     sqlite3_stmt* stmt = prepare(sql, params);
+    if (m_readOnly && !sqlite3_stmt_readonly(stmt)) {
+        finish(stmt, sql);
+        refuseWrite(sql);
+    }
     int rc;
     while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
     }
@@ -383,11 +481,15 @@ void SqliteBackend::begin()
 {
     // IMMEDIATE takes the write lock now, so two writers queue on the busy timeout instead
     // of failing half-way through.
+    checkFile();
+    if (m_readOnly)
+        refuseWrite(QStringLiteral("BEGIN IMMEDIATE"));
     run("BEGIN IMMEDIATE");
 }
 
 void SqliteBackend::commit()
 {
+    checkFile();
     run("COMMIT");
 }
 

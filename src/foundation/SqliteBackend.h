@@ -2,7 +2,9 @@
 
 #include "foundation/Backend.h"
 
+#include <QElapsedTimer>
 #include <QHash>
+#include <sys/types.h>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -11,6 +13,9 @@ namespace qd8 {
 
 // SQLite through its C library: a statement cache, a busy timeout and the WAL journal (a
 // writer is not blocked by an open reader), and the THAI collation on every connection.
+// The file is remembered by device and inode: once it is deleted, moved or replaced, the
+// next checkout, write or commit fails naming it instead of writing into a file no one
+// will see. A file (or folder) the user may not write opens read-only and refuses writes.
 class SqliteBackend final : public Backend {
 public:
     explicit SqliteBackend(const ConnectionString& cs);
@@ -24,13 +29,19 @@ public:
     void commit() override;
     void rollback() override;
     bool inTransaction() const override;
-    bool validate() override { return m_db != nullptr; }
+    // Throws DbError (kind Connection) when the file is no longer the one opened.
+    bool validate() override;
     QStringList primaryKey(const QString& table) override;
     QString placeholder(int) const override { return QStringLiteral("?"); }
 
     static constexpr int BusyTimeoutMs = 10000;
+    bool isReadOnly() const { return m_readOnly; }
 
 private:
+    static int busyWait(void* self, int count);
+    void endBusyWait();
+    void checkFile() const;
+    void refuseWrite(const QString& sql) const;
     sqlite3_stmt* prepare(const QString& sql, const QVariantList& params);
     void finish(sqlite3_stmt* stmt, const QString& sql);
     [[noreturn]] void fail(const QString& sql) const;
@@ -38,6 +49,13 @@ private:
     void attach(const QString& files);
 
     sqlite3* m_db = nullptr;
+    QString m_file;
+    bool m_readOnly = false;
+    bool m_identityKnown = false;
+    dev_t m_device = 0;
+    ino_t m_inode = 0;
+    QElapsedTimer m_busySince;
+    bool m_busyShown = false;
     QHash<QString, sqlite3_stmt*> m_cache;
     QHash<QString, QStringList> m_keys;
 };

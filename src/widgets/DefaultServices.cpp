@@ -16,6 +16,7 @@
 #include <QInputDialog>
 #include <QHash>
 #include <QProcess>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QUrl>
@@ -32,7 +33,8 @@ QWidget* activeWindow()
 QtMessageService messages;
 DialogPickerService picker;
 QtShellService shell;
-[[maybe_unused]] const bool installed = (Services::setDefaults(&messages, &picker, &shell), true);
+QtProgressService progress;
+[[maybe_unused]] const bool installed = (Services::setDefaults(&messages, &picker, &shell, &progress), true);
 
 } // namespace
 
@@ -183,6 +185,50 @@ bool QtShellService::run(const QString& commandLine, int)
 bool QtShellService::openUrl(const QString& url)
 {
     return QDesktopServices::openUrl(QUrl::fromUserInput(url));
+}
+
+QtProgressService::~QtProgressService()
+{
+    for (const Operation& operation : std::as_const(m_running))
+        delete operation.dialog;
+}
+
+void QtProgressService::begin(const QString& title, const QString& text, qint64 total)
+{
+    Operation operation{title, text, total, {}, -1, nullptr};
+    operation.started.start();
+    m_running.append(operation);
+}
+
+bool QtProgressService::step(qint64 done)
+{
+    if (m_running.isEmpty())
+        return true;
+    Operation& operation = m_running.last();
+    const qint64 elapsed = operation.started.elapsed();
+    // Repainting for every row would cost more than the rows; a few times a second is enough.
+    if (elapsed < ShowAfterMs || (operation.lastShownMs >= 0 && elapsed - operation.lastShownMs < 50))
+        return !(operation.dialog && operation.dialog->wasCanceled());
+    if (!operation.dialog) {
+        const int maximum = operation.total > 0 ? int(qMin<qint64>(operation.total, INT_MAX)) : 0;
+        operation.dialog = new QProgressDialog(operation.text, QMessageBox::tr("Cancel"), 0, maximum, activeWindow());
+        operation.dialog->setWindowTitle(operation.title);
+        operation.dialog->setWindowModality(Qt::ApplicationModal);
+        operation.dialog->setMinimumDuration(0);
+        operation.dialog->setAutoClose(false);
+        operation.dialog->setAutoReset(false);
+    }
+    operation.lastShownMs = elapsed;
+    // setValue() of a modal dialog also handles the events, so Cancel is heard.
+    operation.dialog->setValue(operation.total > 0 ? int(qMin(done, operation.total)) : 0);
+    QApplication::processEvents();
+    return !operation.dialog->wasCanceled();
+}
+
+void QtProgressService::end()
+{
+    if (!m_running.isEmpty())
+        delete m_running.takeLast().dialog;
 }
 
 } // namespace qd8

@@ -2,7 +2,12 @@
 
 #include "foundation/Services.h"
 
+#include <QElapsedTimer>
+#include <QList>
+
 #include <QMessageBox>
+
+class QProgressDialog;
 
 namespace qd8 {
 
@@ -35,6 +40,29 @@ class QtShellService : public ShellService {
 public:
     bool run(const QString& commandLine, int windowStyle) override;
     bool openUrl(const QString& url) override;
+};
+
+// A QProgressDialog per running operation, shown once it has run ShowAfterMs; until then
+// nothing appears, so quick saves stay quiet.
+class QtProgressService : public ProgressService {
+public:
+    ~QtProgressService() override;
+    void begin(const QString& title, const QString& text, qint64 total) override;
+    bool step(qint64 done) override;
+    void end() override;
+
+    static constexpr int ShowAfterMs = 250;
+
+private:
+    struct Operation {
+        QString title;
+        QString text;
+        qint64 total = 0;
+        QElapsedTimer started;
+        qint64 lastShownMs = -1;
+        QProgressDialog* dialog = nullptr;
+    };
+    QList<Operation> m_running;
 };
 
 } // namespace qd8

@@ -4,8 +4,14 @@
 #include "foundation/ConnectionPool.h"
 #include "foundation/DbError.h"
 #include "foundation/Recordset.h"
+#include "foundation/TransactionGuard.h"
+#include "support/ScriptedServices.h"
+
+#include <QFile>
 
 #include <QElapsedTimer>
+#include <functional>
+#include <cstdio>
 
 using namespace qd8;
 using namespace qd8::test;
@@ -86,6 +92,116 @@ TEST_P(ConnectionPoolTest, AnUnreachableDatabaseIsAClearError)
     EXPECT_THROW(connection.execute("SELECT 1"), DbError);
 }
 
+TEST_P(ConnectionPoolTest, AWriterWaitingOnAnotherSaysWhoWaitsForWhat)
+{
+    Connection holder;
+    holder.open(db->connectionString());
+    holder.beginTrans();
+    holder.execute("UPDATE QD8TSample SET TSmpName='held' WHERE TSmpID=1");
+    Connection waiter;
+    waiter.open(db->connectionString());
+    if (engine() == Engine::PostgreSQL)
+        waiter.execute("SET lock_timeout = 300");
+    scriptedProgress().cancelTitle = "QD8";  // the user gives up on SQLite's wait
+    scriptedProgress().cancelAt = 300;
+    try {
+        TransactionGuard transaction(waiter);
+        waiter.execute("UPDATE QD8TSample SET TSmpName='mine' WHERE TSmpID=1");
+        FAIL() << "wrote past the lock";
+    } catch (const DbError& e) {
+        EXPECT_EQ(e.kind(), DbError::Kind::Locked);
+        const QString name = engine() == Engine::PostgreSQL ? ConnectionString::parse(db->connectionString()).value({"database"})
+                                                            : ConnectionString::parse(db->connectionString()).sqliteFile();
+        EXPECT_TRUE(e.userText(1).startsWith("Another program or user is writing")) << e.userText(1).toStdString();
+        EXPECT_TRUE(e.userText(1).contains(name));
+    }
+    if (engine() == Engine::SQLite) {
+        ASSERT_EQ(scriptedProgress().operations.size(), 1);
+        EXPECT_GE(scriptedProgress().operations[0].lastStep, 300);
+        EXPECT_EQ(scriptedProgress().ended, 1);
+    }
+}
+
 QD8_ON_BOTH_ENGINES(ConnectionPoolTest);
+
+// SQLite only: a company file is a file others can delete, move or replace.
+class CompanyFileTest : public SampleTableTest {};
+
+TEST_P(CompanyFileTest, AFileReplacedOrDeletedWhileOpenFailsOnceNamingItAndIsNeverWrittenBlind)
+{
+    if (engine() != Engine::SQLite)
+        GTEST_SKIP() << "a PostgreSQL database is not a file";
+    const QString cs = db->connectionString();
+    const QString file = ConnectionString::parse(cs).sqliteFile();
+    {
+        Connection c;
+        c.open(cs);
+        c.execute("PRAGMA wal_checkpoint(TRUNCATE)");
+    }
+    struct Case {
+        const char* what;
+        std::function<void()> change;
+        const char* says;
+        qint64 rowsAfter;  // -1: the next open fails, the file being gone
+    };
+    const QList<Case> cases{
+        {"replaced", [&] { QFile::copy(file, file + ".new"); ::rename(QFile::encodeName(file + ".new"), QFile::encodeName(file)); },
+            "was replaced by another file", 6},
+        {"deleted", [&] { QFile::rename(file, file + ".gone"); }, "was deleted or moved", -1},
+    };
+    for (const Case& c : cases) {
+        Connection held;  // a save under way
+        held.open(cs);
+        held.beginTrans();
+        held.execute("INSERT INTO QD8TSample (TSmpID, TSmpCode) VALUES (30, 'N')");
+        {
+            Connection idle;  // a second physical connection, left in the pool
+            idle.open(cs);
+        }
+        c.change();
+        try {
+            held.commitTrans();
+            ADD_FAILURE() << c.what << ": saved into a file no one will see";
+        } catch (const DbError& e) {
+            EXPECT_TRUE(e.userText(1).contains(file) && e.userText(1).contains(c.says)) << c.what << ": " << e.userText(1).toStdString();
+        }
+        held.close();
+        Connection next;
+        EXPECT_THROW(next.open(cs), DbError) << c.what << ": the pooled connection to the old file is reported once";
+        if (c.rowsAfter < 0) {
+            EXPECT_THROW(next.open(cs), DbError) << c.what;
+            continue;
+        }
+        next.open(cs);  // then the file that is there now
+        Recordset rs;
+        rs.open("SELECT COUNT(*) AS N FROM QD8TSample", next);
+        EXPECT_EQ(rs.field("N").toLongLong(), c.rowsAfter) << c.what;
+    }
+}
+
+TEST_P(CompanyFileTest, AReadOnlyCompanyOpensForViewingAndRefusesWritesClearly)
+{
+    if (engine() != Engine::SQLite)
+        GTEST_SKIP() << "read-only files are SQLite's";
+    const QString cs = db->connectionString() + ";Mode=ReadOnly";
+    const QString file = ConnectionString::parse(cs).sqliteFile();
+    Connection c;
+    c.open(cs);
+    Recordset rs;
+    rs.open("SELECT COUNT(*) AS N FROM QD8TSample", c);
+    EXPECT_EQ(rs.field("N").toInt(), 6);
+    const std::function<void()> writes[] = {[&] { c.execute("DELETE FROM QD8TSample"); }, [&] { c.beginTrans(); }};
+    for (const auto& write : writes) {
+        try {
+            write();
+            ADD_FAILURE() << "wrote to a read-only company";
+        } catch (const DbError& e) {
+            EXPECT_EQ(e.kind(), DbError::Kind::ReadOnly);
+            EXPECT_EQ(e.userText(1), QStringLiteral("The company file \"%1\" is open for viewing only; changes cannot be saved").arg(file));
+        }
+    }
+}
+
+QD8_ON_BOTH_ENGINES(CompanyFileTest);
 
 } // namespace

@@ -347,6 +347,57 @@ TEST_P(QuickGridTest, AnotherUsersChangeIsReportedNotOverwritten)
     EXPECT_TRUE(scriptedMessages().shown.last().text.contains("ลบรายการนี้ไปแล้ว"));
 }
 
+TEST_P(QuickGridTest, ADeleteThatWouldNotRemoveExactlyTheOneEntryIsRefusedAndUndone)
+{
+    struct Case {
+        const char* form;  // how QDIV's key is declared
+        int row;           // the row deleted (rows by TDivSort)
+        const char* says;
+    } cases[] = {
+        {"UPDATE QD8TQuickField SET TQFFFieldType='NUMBER' WHERE TQFFID=9001", 4, "\"0 OR 1=1\" ไม่ใช่ตัวเลข"},
+        {"UPDATE QD8TQuickField SET TQFFPrimaryKey=CASE WHEN TQFFID=9003 THEN 1 ELSE 0 END WHERE TQFFID IN (9001, 9003)", 2,
+            "รหัสของรายการนี้ตรงกับ 2 รายการ จึงไม่ลบ"},
+        {"UPDATE QD8TQuickField SET TQFFPrimaryKey=0 WHERE TQFFID=9001", 1, "แบบฟอร์มนี้ไม่มีช่องรหัส"},
+    };
+    runOnData({"INSERT INTO QD8TDivision (TDivCode, TDivName, TDivName2, TDivSort, TDivFlag1) VALUES ('0 OR 1=1', 'x', 'Sales', 4, 1)"});
+    for (const Case& c : cases) {
+        runOnApp({"UPDATE QD8TQuickField SET TQFFFieldType='TEXT', TQFFPrimaryKey=CASE WHEN TQFFID=9001 THEN 1 ELSE 0 END WHERE TQFFID IN (9001, 9003)",
+            c.form});
+        grid.cmdWhereShow("QDIV");
+        grid.button("Edit")->trigger();
+        grid.grid()->DeleteRow(c.row);
+        scriptedMessages().answers = {true};
+        EXPECT_FALSE(grid.save()) << c.form;
+        EXPECT_TRUE(scriptedMessages().shown.last().text.contains(QString::fromUtf8(c.says))) << scriptedMessages().shown.last().text.toStdString();
+        EXPECT_EQ(divisions().size(), 4) << c.form;
+        grid.cmdCancel_Click();
+    }
+}
+
+TEST_P(QuickGridTest, ALongSaveShowsProgressAndCancelWritesNothing)
+{
+    grid.cmdWhereShow("QDIV");
+    grid.button("Edit")->trigger();
+    grid.grid()->SetValue(1, 2, "ยกเลิกได้");
+    grid.grid()->DeleteRow(3);
+    scriptedProgress().cancelTitle = "ฝ่าย";
+    scriptedProgress().cancelAt = 4;  // after the delete, before the changed row
+    scriptedMessages().answers = {true};
+    EXPECT_FALSE(grid.save());
+    EXPECT_EQ(scriptedMessages().shown.last().text, "ยกเลิกการบันทึกแล้ว ไม่มีข้อมูลใดถูกบันทึก");
+    EXPECT_EQ(divisions().size(), 3);
+    EXPECT_EQ(grid.RUNMODE(), "EDIT");
+
+    scriptedProgress().reset();
+    scriptedMessages().answers = {true};
+    ASSERT_TRUE(grid.save());
+    ASSERT_EQ(scriptedProgress().operations.size(), 1);
+    EXPECT_EQ(scriptedProgress().operations[0].total, 6);
+    EXPECT_EQ(scriptedProgress().operations[0].lastStep, 6);
+    EXPECT_EQ(scriptedProgress().ended, 1);
+    EXPECT_EQ(divisions().first(), "D01|ยกเลิกได้|1");
+}
+
 TEST_P(QuickGridTest, AKeyStillInUseIsNotDeleted)
 {
     grid.cmdWhereShow("QDIV");

@@ -25,6 +25,20 @@ TEST(Sql, QuotedValuesAreWrittenAsTheyStandAndAQuoteBreaksTheStatement)
     EXPECT_TRUE(appended.isBroken());
 }
 
+TEST(Sql, ANumberPositionTakesOnlyAPlainNumber)
+{
+    for (const char* good : {"0", "42", "-7", "3.50"}) {
+        const Sql sql = Sql("DELETE FROM T WHERE N=") + number(QString::fromLatin1(good));
+        EXPECT_FALSE(sql.isBroken()) << good;
+        EXPECT_EQ(sql.text(), QStringLiteral("DELETE FROM T WHERE N=") + QLatin1String(good));
+    }
+    for (const char* bad : {"0 OR 1=1", "", " 1", "1;DROP TABLE T", "1e5", "0x10", "1.", "--1", "1-1"}) {
+        const Sql sql = Sql("DELETE FROM T WHERE N=") + number(QString::fromLatin1(bad)) + " AND M=" + quoted("x");
+        EXPECT_EQ(sql.flaw(), Sql::Flaw::NotANumber) << bad;
+        EXPECT_EQ(sql.brokenValue(), QLatin1String(bad));
+    }
+}
+
 struct Rewrite {
     Engine engine;
     const char* composed;

@@ -82,6 +82,35 @@ bool ScriptedShell::openUrl(const QString& url)
     return true;
 }
 
+void ScriptedProgress::begin(const QString& title, const QString& text, qint64 total)
+{
+    operations.append({title, text, total, -1, 0});
+    m_open.append(int(operations.size()) - 1);
+}
+
+bool ScriptedProgress::step(qint64 done)
+{
+    if (m_open.isEmpty())
+        return true;
+    Operation& operation = operations[m_open.last()];
+    operation.lastStep = done;
+    ++operation.steps;
+    return !(operation.title == cancelTitle && cancelAt >= 0 && done >= cancelAt);
+}
+
+void ScriptedProgress::end()
+{
+    ++ended;
+    if (!m_open.isEmpty())
+        m_open.removeLast();
+}
+
+ScriptedProgress& scriptedProgress()
+{
+    static ScriptedProgress service;
+    return service;
+}
+
 ScriptedMessages& scriptedMessages()
 {
     static ScriptedMessages service;
@@ -105,6 +134,8 @@ void installScriptedServices()
     scriptedMessages().reset();
     scriptedPicker().reset();
     scriptedShell().reset();
+    scriptedProgress().reset();
+    Services::setProgress(&scriptedProgress());
     Services::setMessages(&scriptedMessages());
     Services::setPicker(&scriptedPicker());
     Services::setShell(&scriptedShell());

@@ -78,10 +78,36 @@ public:
     void reset() { commands.clear(); starts = true; }
 };
 
+// Records every operation and its last step; answers "cancel" once an operation of the
+// title `cancelTitle` reaches step `cancelAt`.
+class ScriptedProgress : public ProgressService {
+public:
+    void begin(const QString& title, const QString& text, qint64 total) override;
+    bool step(qint64 done) override;
+    void end() override;
+
+    struct Operation {
+        QString title;
+        QString text;
+        qint64 total = 0;
+        qint64 lastStep = -1;
+        int steps = 0;
+    };
+    QList<Operation> operations;
+    int ended = 0;
+    QString cancelTitle;
+    qint64 cancelAt = -1;
+    void reset() { operations.clear(); m_open.clear(); ended = 0; cancelTitle.clear(); cancelAt = -1; }
+
+private:
+    QList<int> m_open;  // indexes into operations, innermost last
+};
+
 ScriptedMessages& scriptedMessages();
+ScriptedProgress& scriptedProgress();
 ScriptedPicker& scriptedPicker();
 ScriptedShell& scriptedShell();
-// Installs the three as the services in force and clears their scripts.
+// Installs the four as the services in force and clears their scripts.
 void installScriptedServices();
 
 } // namespace qd8::test
