@@ -4,7 +4,6 @@
 
 #include <QElapsedTimer>
 #include <QList>
-
 #include <QMessageBox>
 
 class QProgressDialog;

@@ -528,7 +528,7 @@ TEST_P(SampleReferencesTest, EveryMasterOthersReferToRefusesToDeleteARowInUse)
             Recordset used;
             used.open(Sql("SELECT ") + check.column + " FROM " + check.table + " WHERE " + check.column + " IS NOT NULL", data);
             ASSERT_FALSE(used.eof()) << "the sample refers to no row: the check is never tried";
-            const QString key = used.text(0);
+            const QString key = used.field(0).toString();
             QuickGrid grid;
             grid.setConnectionString(appConnectionString());
             grid.setDataConnectionString(dataConnectionString());

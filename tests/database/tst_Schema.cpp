@@ -188,6 +188,8 @@ TEST_P(SampleSchemaTest, EveryQuickFormNamesTablesColumnsFormsAndCommandsThatExi
         const QString table = get("TQFmTable"), view = get("TQFmView"), flag = get("TQFmKeyIDEN") + QStringLiteral("Flag1");
         EXPECT_FALSE(get("TQFmCaption").isEmpty() || get("TQFmCaption2").isEmpty()) << "a title in both languages";
         EXPECT_TRUE(groups.contains(get("TQFmTCmGAlias"))) << "module " << get("TQFmTCmGAlias").toStdString();
+        if (get("TQFmFlag1") != QLatin1String("1"))
+            continue;  // a form kept only as another's deletion check
 
         QStringList all, active, keys;
         Recordset field;
