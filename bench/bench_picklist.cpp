@@ -8,7 +8,7 @@
 #include "foundation/Connection.h"
 #include "foundation/PickRequest.h"
 #include "widgets/PickListDialog.h"
-#include "widgets/PickListModel.h"
+#include "widgets/PickListModel_p.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -11,7 +11,7 @@
 #include "foundation/TransactionGuard.h"
 #include "foundation/Values.h"
 #include "widgets/DateEdit.h"
-#include "widgets/EditorShortcuts.h"
+#include "widgets/EditorShortcuts_p.h"
 
 #include <QCheckBox>
 #include <QDate>

@@ -1,4 +1,4 @@
-#include "database/LookupScope.h"
+#include "database/LookupScope_p.h"
 
 #include <QFileInfo>
 

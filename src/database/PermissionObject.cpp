@@ -1,6 +1,6 @@
 #include "database/PermissionObject.h"
 
-#include "database/LookupScope.h"
+#include "database/LookupScope_p.h"
 
 #include "foundation/Connection.h"
 #include "foundation/Recordset.h"

@@ -11,7 +11,7 @@
 #include "foundation/Recordset.h"
 #include "foundation/Services.h"
 #include "foundation/Values.h"
-#include "widgets/EditorShortcuts.h"
+#include "widgets/EditorShortcuts_p.h"
 #include "widgets/GridEditor.h"
 #include "widgets/GridEditorModel.h"
 

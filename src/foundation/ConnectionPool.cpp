@@ -1,9 +1,9 @@
 #include "foundation/ConnectionPool.h"
 
 #include "foundation/DbError.h"
-#include "foundation/PostgresBackend.h"
-#include "foundation/QtSqlBackend.h"
-#include "foundation/SqliteBackend.h"
+#include "foundation/PostgresBackend_p.h"
+#include "foundation/QtSqlBackend_p.h"
+#include "foundation/SqliteBackend_p.h"
 
 namespace qd8 {
 

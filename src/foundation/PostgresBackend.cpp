@@ -1,4 +1,4 @@
-#include "foundation/PostgresBackend.h"
+#include "foundation/PostgresBackend_p.h"
 
 #include "foundation/Currency.h"
 #include "foundation/DbError.h"

@@ -1,4 +1,4 @@
-#include "foundation/QtSqlBackend.h"
+#include "foundation/QtSqlBackend_p.h"
 
 #include "foundation/ConnectionPool.h"
 #include "foundation/Currency.h"

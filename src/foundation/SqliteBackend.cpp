@@ -1,4 +1,4 @@
-#include "foundation/SqliteBackend.h"
+#include "foundation/SqliteBackend_p.h"
 
 #include "foundation/Currency.h"
 #include "foundation/DbError.h"

@@ -1,6 +1,6 @@
 #include "foundation/ThaiCollation.h"
 
-#include "foundation/ThaiCompare.h"
+#include "foundation/ThaiCompare_p.h"
 
 #include <sqlite3.h>
 

@@ -1,7 +1,7 @@
 #include "navigation/CommandCatalogue.h"
 
 #include "database/ListService.h"
-#include "database/LookupScope.h"
+#include "database/LookupScope_p.h"
 #include "database/PermissionObject.h"
 #include "database/SessionFunctions.h"
 #include "database/SessionServices.h"
@@ -44,7 +44,7 @@ Sql CommandCatalogue::userListSql(qint32 userId)
 
 Sql CommandCatalogue::commandByIdSql(const QString& commandId)
 {
-    return Sql("SELECT * FROM QD8TCommand WHERE TCmdFlag1=1 AND TCmdID=") + commandId;
+    return Sql("SELECT * FROM QD8TCommand WHERE TCmdFlag1=1 AND TCmdID=") + number(commandId);
 }
 
 Sql CommandCatalogue::aliasLookupSql(const QString& alias)

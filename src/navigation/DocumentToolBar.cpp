@@ -1,6 +1,6 @@
 #include "navigation/DocumentToolBar.h"
 
-#include "database/LookupScope.h"
+#include "database/LookupScope_p.h"
 #include "foundation/Services.h"
 
 #include <QHBoxLayout>

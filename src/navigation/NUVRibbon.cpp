@@ -1,6 +1,6 @@
 #include "navigation/NUVRibbon.h"
 
-#include "database/LookupScope.h"
+#include "database/LookupScope_p.h"
 #include "database/ListService.h"
 #include "database/SessionFunctions.h"
 #include "database/SessionServices.h"

@@ -1,6 +1,6 @@
 #include "navigation/ShortCutBar.h"
 
-#include "database/LookupScope.h"
+#include "database/LookupScope_p.h"
 
 #include <QAction>
 #include <QEvent>

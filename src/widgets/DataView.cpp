@@ -4,7 +4,7 @@
 #include "foundation/Connection.h"
 #include "foundation/ConnectionPool.h"
 #include "foundation/DbError.h"
-#include "widgets/DataViewModel.h"
+#include "widgets/DataViewModel_p.h"
 #include "widgets/Twips.h"
 
 #include <QAbstractButton>

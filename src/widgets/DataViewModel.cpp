@@ -1,4 +1,4 @@
-#include "widgets/DataViewModel.h"
+#include "widgets/DataViewModel_p.h"
 
 #include "foundation/DbError.h"
 #include "foundation/Values.h"

@@ -1,4 +1,4 @@
-#include "widgets/DefaultServices.h"
+#include "widgets/DefaultServices_p.h"
 
 #include "foundation/Language.h"
 #include "foundation/SessionContext.h"
@@ -6,7 +6,7 @@
 #include "widgets/MonthCalendar.h"
 #include "widgets/MonthYearView.h"
 #include "widgets/PickListDialog.h"
-#include "widgets/PickerPopup.h"
+#include "widgets/PickerPopup_p.h"
 #include "widgets/frmInputMultiLine.h"
 
 #include <QAbstractButton>

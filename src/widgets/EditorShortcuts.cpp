@@ -1,4 +1,4 @@
-#include "widgets/EditorShortcuts.h"
+#include "widgets/EditorShortcuts_p.h"
 
 #include <QAction>
 #include <QHash>

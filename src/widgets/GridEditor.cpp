@@ -2,7 +2,7 @@
 
 #include "foundation/CommaList.h"
 #include "foundation/DbError.h"
-#include "widgets/GridEditorDelegate.h"
+#include "widgets/GridEditorDelegate_p.h"
 #include "widgets/GridEditorModel.h"
 #include "widgets/Twips.h"
 

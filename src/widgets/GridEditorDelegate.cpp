@@ -1,4 +1,4 @@
-#include "widgets/GridEditorDelegate.h"
+#include "widgets/GridEditorDelegate_p.h"
 
 #include "foundation/DateText.h"
 #include "widgets/GridEditorModel.h"

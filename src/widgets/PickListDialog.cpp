@@ -1,7 +1,7 @@
 #include "widgets/PickListDialog.h"
 
 #include "foundation/DbError.h"
-#include "widgets/PickListModel.h"
+#include "widgets/PickListModel_p.h"
 #include "widgets/Twips.h"
 
 #include <QDialogButtonBox>

@@ -1,4 +1,4 @@
-#include "widgets/PickListModel.h"
+#include "widgets/PickListModel_p.h"
 
 #include "foundation/CommaList.h"
 #include "foundation/DbError.h"

@@ -1,4 +1,4 @@
-#include "widgets/PickerPopup.h"
+#include "widgets/PickerPopup_p.h"
 
 #include <QGuiApplication>
 #include <QScreen>

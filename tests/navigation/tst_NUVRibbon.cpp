@@ -5,7 +5,7 @@
 #include "navigation/NUVRibbon.h"
 #include "navigation/OemSettings.h"
 #include "widgets/FormRegistry.h"
-#include "widgets/PickListModel.h"
+#include "widgets/PickListModel_p.h"
 #include "widgets/Ribbon.h"
 
 #include <QApplication>

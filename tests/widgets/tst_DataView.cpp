@@ -5,7 +5,7 @@
 #include "foundation/DbError.h"
 #include "foundation/RowStore.h"
 #include "widgets/DataView.h"
-#include "widgets/DataViewModel.h"
+#include "widgets/DataViewModel_p.h"
 #include "widgets/Twips.h"
 
 #include <QAbstractItemModelTester>

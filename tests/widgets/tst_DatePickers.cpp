@@ -3,10 +3,10 @@
 #include "foundation/Services.h"
 #include "widgets/DateEdit.h"
 #include "widgets/DateTimeView.h"
-#include "widgets/DefaultServices.h"
+#include "widgets/DefaultServices_p.h"
 #include "widgets/MonthCalendar.h"
 #include "widgets/MonthYearView.h"
-#include "widgets/PickerPopup.h"
+#include "widgets/PickerPopup_p.h"
 #include "widgets/frmInputMultiLine.h"
 
 #include <QApplication>

@@ -2,7 +2,7 @@
 
 #include "database/QuickFormPick.h"
 #include "foundation/Services.h"
-#include "widgets/DefaultServices.h"
+#include "widgets/DefaultServices_p.h"
 #include "widgets/PickListDialog.h"
 
 #include <QAbstractButton>

@@ -2,7 +2,7 @@
 
 #include "foundation/SqlTrace.h"
 #include "widgets/PickListDialog.h"
-#include "widgets/PickListModel.h"
+#include "widgets/PickListModel_p.h"
 #include "widgets/Twips.h"
 
 #include <QAbstractItemModelTester>

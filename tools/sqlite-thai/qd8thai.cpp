@@ -4,7 +4,7 @@
 #include <sqlite3ext.h>
 SQLITE_EXTENSION_INIT1
 
-#include "foundation/ThaiCompare.h"
+#include "foundation/ThaiCompare_p.h"
 
 extern "C" int sqlite3_qd8thai_init(sqlite3* db, char** error, const sqlite3_api_routines* api)
 {
