@@ -31,6 +31,7 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QListWidget>
+#include <QScrollArea>
 #include <QMetaClassInfo>
 #include <QRegularExpression>
 #include <QScreen>
@@ -42,6 +43,9 @@
 namespace qd8 {
 
 namespace {
+
+// A thin scroll bar under the tool bar, there only when the window is too narrow for it.
+constexpr int ToolBarScrollBarPixels = 6;
 
 QHash<QString, WorkbenchWindow::Deleter>& deleters()
 {
@@ -83,7 +87,20 @@ WorkbenchWindow::WorkbenchWindow(const WorkbenchSession& session, const QString&
     centre->setObjectName(QStringLiteral("centre"));
     auto* centreLayout = new QVBoxLayout(centre);
     centreLayout->setContentsMargins(0, 0, 0, 0);
-    centreLayout->addWidget(m_toolBar);
+    // On a small screen the tool bar scrolls sideways instead of widening the window.
+    auto* toolBarRoom = new QScrollArea(centre);
+    toolBarRoom->setObjectName(QStringLiteral("toolBarRoom"));
+    toolBarRoom->setFrameShape(QFrame::NoFrame);
+    toolBarRoom->setWidgetResizable(true);
+    toolBarRoom->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    toolBarRoom->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    toolBarRoom->setWidget(m_toolBar);
+    toolBarRoom->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    toolBarRoom->setStyleSheet(QStringLiteral("#toolBarRoom, #toolBarRoom > QWidget > QWidget { background: transparent; } "
+                                              "#toolBarRoom QScrollBar:horizontal { height: %1px; }")
+                                   .arg(ToolBarScrollBarPixels));
+    toolBarRoom->setFixedHeight(m_toolBar->sizeHint().height() + ToolBarScrollBarPixels);
+    centreLayout->addWidget(toolBarRoom);
     centreLayout->addWidget(m_tabs, 1);
     m_tabs->setTabsClosable(true);
     m_tabs->setDocumentMode(true);
@@ -558,7 +575,7 @@ void WorkbenchWindow::onThemeChange(int theme, QObject*)
     const QList<RibbonTheme>& themes = Ribbon::themes();
     const RibbonTheme& t = themes.value(theme, themes.first());
     setStyleSheet(QStringLiteral("QMainWindow { background: %1; } QStatusBar { background: %2; color: %3; } QStatusBar QLabel { color: %3; } "
-                                 "#centre > qd8--DocumentToolBar QToolButton { color: %3; }")
+                                 "#centre qd8--DocumentToolBar QToolButton { color: %3; }")
                       .arg(t.background.name(), t.tabBar.name(), t.text.name()));
 }
 

@@ -23,12 +23,18 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 
 namespace qd8 {
 
 namespace {
 
-constexpr int PanelColumns = 4;  // label/box pairs per row of the filter panel
+// Label/box pairs per row of the filter panel: four on a wide screen, three on a small one
+// (1024 pixels), so the panel never widens the window.
+constexpr int WidePanelColumns = 4;
+constexpr int NarrowPanelColumns = 3;
+constexpr int WideScreenPixels = 1280;
+constexpr int ComboMinimumCharacters = 10;
 
 QDate boxDate(const DateEdit* box)
 {
@@ -211,6 +217,8 @@ void DucumentList::buildPanel()
     m_grid = new QGridLayout(m_panel);
     m_grid->setContentsMargins(0, 0, 0, 0);
     m_cell = 0;
+    const QScreen* shownOn = screen();
+    m_columns = shownOn && shownOn->availableGeometry().width() < WideScreenPixels ? NarrowPanelColumns : WidePanelColumns;
     panelLayout()->addWidget(m_panel);
     // The boxes in the order their conditions are written.
     addStatusBoxes();
@@ -360,7 +368,7 @@ QCheckBox* DucumentList::addCheck(const char* name, const QString& caption)
 
 void DucumentList::addWide(QWidget* widget)
 {
-    m_grid->addWidget(widget, m_cell / PanelColumns, (m_cell % PanelColumns) * 2, 1, 2);
+    m_grid->addWidget(widget, m_cell / m_columns, (m_cell % m_columns) * 2, 1, 2);
     ++m_cell;
 }
 
@@ -393,8 +401,8 @@ void DucumentList::placeBox(const char* name, const QString& caption, QLineEdit*
     box->setAccessibleName(caption);
     label->setBuddy(box);
     connect(box, &QLineEdit::returnPressed, this, &DucumentList::select);
-    m_grid->addWidget(label, m_cell / PanelColumns, (m_cell % PanelColumns) * 2);
-    m_grid->addWidget(box, m_cell / PanelColumns, (m_cell % PanelColumns) * 2 + 1);
+    m_grid->addWidget(label, m_cell / m_columns, (m_cell % m_columns) * 2);
+    m_grid->addWidget(box, m_cell / m_columns, (m_cell % m_columns) * 2 + 1);
     ++m_cell;
 }
 
@@ -402,13 +410,16 @@ QComboBox* DucumentList::addCombo(const char* name, const QString& caption, cons
 {
     auto* label = new QLabel(caption, m_panel);
     auto* combo = new QComboBox(m_panel);
+    // Long choices ("ผู้จำหน่ายยังไม่รับทราบ") must not widen the panel past a small screen.
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->setMinimumContentsLength(ComboMinimumCharacters);
     combo->setObjectName(QString::fromLatin1(name));
     combo->setAccessibleName(caption);
     combo->addItems(captions);
     combo->setCurrentIndex(current >= 0 && current < captions.size() ? current : 0);
     label->setBuddy(combo);
-    m_grid->addWidget(label, m_cell / PanelColumns, (m_cell % PanelColumns) * 2);
-    m_grid->addWidget(combo, m_cell / PanelColumns, (m_cell % PanelColumns) * 2 + 1);
+    m_grid->addWidget(label, m_cell / m_columns, (m_cell % m_columns) * 2);
+    m_grid->addWidget(combo, m_cell / m_columns, (m_cell % m_columns) * 2 + 1);
     ++m_cell;
     return combo;
 }

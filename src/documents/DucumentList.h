@@ -150,6 +150,7 @@ private:
     QWidget* m_panel = nullptr;
     QGridLayout* m_grid = nullptr;
     int m_cell = 0;
+    int m_columns = 4;  // label/box pairs per row
     QComboBox* m_status = nullptr;
     QComboBox* m_status2 = nullptr;
     QComboBox* m_backDays = nullptr;
