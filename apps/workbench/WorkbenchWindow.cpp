@@ -23,6 +23,7 @@
 #include "widgets/FormRegistry.h"
 #include "widgets/Ribbon.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -37,6 +38,7 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -141,6 +143,14 @@ void WorkbenchWindow::buildStatusBar()
     statusBar()->addPermanentWidget(m_userLabel);
     statusBar()->addPermanentWidget(m_companyLabel);
     statusBar()->addPermanentWidget(m_language);
+    m_logOut = new QAction(this);
+    m_logOut->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L));
+    connect(m_logOut, &QAction::triggered, this, &WorkbenchWindow::logOut);
+    addAction(m_logOut);
+    auto* logOutButton = new QToolButton(this);
+    logOutButton->setObjectName(QStringLiteral("btnLogOut"));
+    logOutButton->setDefaultAction(m_logOut);
+    statusBar()->addPermanentWidget(logOutButton);
     updateStatusLabels();
 }
 
@@ -152,6 +162,9 @@ void WorkbenchWindow::updateStatusLabels()
             name = user.loginName + QStringLiteral(" — ") + user.name;
     m_userLabel->setText(text("ผู้ใช้: ", "User: ") + name);
     m_companyLabel->setText(text("ฐานข้อมูล: ", "Company: ") + m_session.companyName());
+    m_logOut->setText(text("ออกจากระบบ", "Log out"));
+    m_logOut->setToolTip(m_logOut->text() + QStringLiteral(" (") + m_logOut->shortcut().toString(QKeySequence::NativeText)
+        + QLatin1Char(')'));
 }
 
 void WorkbenchWindow::fillModules(const QString& module)
@@ -513,6 +526,15 @@ bool WorkbenchWindow::closeAllForms()
         m_tabs->removeTab(0);
         form->deleteLater();
     }
+    return true;
+}
+
+bool WorkbenchWindow::logOut()
+{
+    if (!closeAllForms())
+        return false;
+    m_loggedOut = true;
+    close();
     return true;
 }
 

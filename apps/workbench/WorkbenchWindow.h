@@ -9,6 +9,7 @@
 #include <memory>
 #include <tuple>
 
+class QAction;
 class QComboBox;
 class QLabel;
 class QTabWidget;
@@ -59,6 +60,8 @@ public:
     QStringList saveScreenshots(const QString& folder);
     // A picture of the window as the screen shows it.
     QString savePicture(const QString& file);
+    // The user logged out: the window closed for the next login, not to end the program.
+    bool loggedOut() const { return m_loggedOut; }
 
 public Q_SLOTS:
     // What the host does for Lunch: opens the command's form, or says why it cannot.
@@ -72,6 +75,9 @@ public Q_SLOTS:
     // every tab with unsaved changes in turn, then closes them all. False, with every tab
     // still open, when the user cancelled one or a save failed.
     bool closeAllForms();
+    // Ends the session (Ctrl+Shift+L): closes every form as closeAllForms does, then the
+    // window, and the program asks who logs in next. False when a form stays open.
+    bool logOut();
 
 Q_SIGNALS:
     // Every status message, for logs and tests.
@@ -125,6 +131,8 @@ private:
     QComboBox* m_language = nullptr;
     QLabel* m_userLabel = nullptr;
     QLabel* m_companyLabel = nullptr;
+    QAction* m_logOut = nullptr;
+    bool m_loggedOut = false;
     QString m_status;
 };
 

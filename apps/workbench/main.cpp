@@ -111,26 +111,35 @@ int main(int argc, char* argv[])
     }
 
     registerWorkbenchForms();
-    WorkbenchWindow window(session, options.value("module"));
-    QObject::connect(&window, &WorkbenchWindow::statusChanged, [&](const QString& message) { note("status " + message); });
-    QObject::connect(&window, &WorkbenchWindow::formOpened, [&](const QString& alias) { note("opened " + alias); });
-    if (const QStringList size = options.value("size").split(QLatin1Char('x')); size.size() == 2)
-        window.resize(size[0].toInt(), size[1].toInt());
-    window.show();
+    // One window per login: logging out closes it and asks who works next.
+    for (;;) {
+        WorkbenchWindow window(session, options.value("module"));
+        QObject::connect(&window, &WorkbenchWindow::statusChanged, [&](const QString& message) { note("status " + message); });
+        QObject::connect(&window, &WorkbenchWindow::formOpened, [&](const QString& alias) { note("opened " + alias); });
+        if (const QStringList size = options.value("size").split(QLatin1Char('x')); size.size() == 2)
+            window.resize(size[0].toInt(), size[1].toInt());
+        window.show();
 
-    if (options.isSet("screenshot")) {
-        const QStringList files = window.saveScreenshots(options.value("screenshot"));
-        for (const QString& file : files)
-            QTextStream(stdout) << file << '\n';
-        return files.isEmpty() ? 1 : 0;
+        if (options.isSet("screenshot")) {
+            const QStringList files = window.saveScreenshots(options.value("screenshot"));
+            for (const QString& file : files)
+                QTextStream(stdout) << file << '\n';
+            return files.isEmpty() ? 1 : 0;
+        }
+        // Ctrl+Shift+P keeps a picture of the window beside the log (or in the sample folder).
+        auto* picture = new QShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+P")), &window);
+        QObject::connect(picture, &QShortcut::activated, [&] {
+            const QString folder = logFile.isOpen() ? QFileInfo(logFile.fileName()).absolutePath() : session.appPath;
+            note("picture " + window.savePicture(QDir(folder).filePath(QStringLiteral("workbench.png"))));
+        });
+        note("thai-font " + thaiFontFamily());
+        QTimer::singleShot(0, &window, [&] { note("ready"); });
+        const int code = app.exec();
+        if (!window.loggedOut())
+            return code;
+        note("logged out");
+        LoginDialog login(session);
+        if (login.exec() != QDialog::Accepted)
+            return 0;
     }
-    // Ctrl+Shift+P keeps a picture of the window beside the log (or in the sample folder).
-    auto* picture = new QShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+P")), &window);
-    QObject::connect(picture, &QShortcut::activated, [&] {
-        const QString folder = logFile.isOpen() ? QFileInfo(logFile.fileName()).absolutePath() : session.appPath;
-        note("picture " + window.savePicture(QDir(folder).filePath(QStringLiteral("workbench.png"))));
-    });
-    note("thai-font " + thaiFontFamily());
-    QTimer::singleShot(0, &window, [&] { note("ready"); });
-    return app.exec();
 }

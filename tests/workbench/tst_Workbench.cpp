@@ -278,26 +278,29 @@ TEST_P(WorkbenchTest, AClerkMaintainsAMasterTableFromTheRibbon)
     EXPECT_EQ(editor->grid()->TextMatrix(0, 1), "รหัส");
 }
 
-TEST_P(WorkbenchTest, ClosingATabOrTheWindowAsksBeforeUnsavedWorkIsDropped)
+TEST_P(WorkbenchTest, ClosingATabOrTheWindowOrLoggingOutAsksBeforeUnsavedWorkIsDropped)
 {
     using Answer = MessageService::SaveAnswer;
+    enum How { Tab, Window, LogOut };
     const struct {
         const char* user;
-        bool window;           // close the main window, else the tab's ×
+        How how;               // the tab's ×, the main window's close, or logging out
         const char* typed;     // the English name of D01 typed before closing; "" types nothing
         QList<Answer> answer;  // none: it must not ask
         bool closed;
         const char* stored;
     } cases[] = {
-        {"SOMCHAI", false, "", {}, true, "Accounting & Finance"},
-        {"SOMCHAI", false, "Finance", {Answer::Cancel}, false, "Accounting & Finance"},
-        {"JOHN", false, "Finance", {Answer::Discard}, true, "Accounting & Finance"},
-        {"JOHN", false, "Finance", {Answer::Save}, true, "Finance"},
-        {"SOMCHAI", true, "Treasury", {Answer::Cancel}, false, "Finance"},
-        {"JOHN", true, "Treasury", {Answer::Save}, true, "Treasury"},
+        {"SOMCHAI", Tab, "", {}, true, "Accounting & Finance"},
+        {"SOMCHAI", Tab, "Finance", {Answer::Cancel}, false, "Accounting & Finance"},
+        {"JOHN", Tab, "Finance", {Answer::Discard}, true, "Accounting & Finance"},
+        {"JOHN", Tab, "Finance", {Answer::Save}, true, "Finance"},
+        {"SOMCHAI", Window, "Treasury", {Answer::Cancel}, false, "Finance"},
+        {"JOHN", Window, "Treasury", {Answer::Save}, true, "Treasury"},
+        {"SOMCHAI", LogOut, "Audit", {Answer::Cancel}, false, "Treasury"},
+        {"JOHN", LogOut, "Audit", {Answer::Discard}, true, "Treasury"},
     };
     for (const auto& t : cases) {
-        SCOPED_TRACE(std::string(t.user) + (t.window ? " window " : " tab ") + t.typed);
+        SCOPED_TRACE(std::string(t.user) + " " + std::to_string(t.how) + " " + t.typed);
         scriptedMessages().reset();
         auto window = open(t.user, "HR");
         window->launch("DIVISION");
@@ -309,12 +312,19 @@ TEST_P(WorkbenchTest, ClosingATabOrTheWindowAsksBeforeUnsavedWorkIsDropped)
         EXPECT_EQ(editor->hasUnsavedChanges(), *t.typed != 0);
         scriptedMessages().saveAnswers = t.answer;
         scriptedMessages().answers = {true};  // the editor's own confirmation of a save
-        if (t.window)
+        if (t.how == Window)
             window->close();
+        else if (t.how == LogOut) {
+            window->activateWindow();
+            ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+            QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : window.get(), Qt::Key_L,
+                Qt::ControlModifier | Qt::ShiftModifier);
+        }
         else
             emit window->tabs()->tabCloseRequested(window->tabs()->currentIndex());
         EXPECT_EQ(window->tabs()->count(), t.closed ? 0 : 1);
-        EXPECT_EQ(window->isVisible(), !(t.window && t.closed));
+        EXPECT_EQ(window->isVisible(), !(t.how != Tab && t.closed));
+        EXPECT_EQ(window->loggedOut(), t.how == LogOut && t.closed);
         const int language = QLatin1String(t.user) == QLatin1String("JOHN") ? 1 : 0;
         EXPECT_EQ(scriptedMessages().saveLanguages, QList<int>(t.answer.size(), language));
         Connection c;
