@@ -95,6 +95,7 @@ void MasterList::buildPanel()
     m_inUse->setAccessibleName(bilingual("สถานะการใช้งาน", "In use"));
     m_inUse->addItems({bilingual("ใช้งาน", "In use"), bilingual("ทั้งหมด", "All"), bilingual("ไม่ใช้งาน", "Not in use")});
     m_inUse->setCurrentIndex(m_def.DefaultFilter >= 0 && m_def.DefaultFilter <= 2 ? m_def.DefaultFilter : 0);
+    connect(m_inUse, &QComboBox::currentIndexChanged, this, &MasterList::select);  // the list never contradicts it
     row->addWidget(m_inUse);
 
     m_applyFilter1 = nullptr;
