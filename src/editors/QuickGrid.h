@@ -78,12 +78,14 @@ public Q_SLOTS:
     // The tool-bar buttons.
     void buttonClick(const QString& key);
     // "Update": confirms, checks, writes every marked row in one transaction; true when saved.
-    bool save();
+    // `confirmed`: the user has just chosen to save (closing with unsaved changes), so the
+    // confirmation is not asked a second time.
+    bool save(bool confirmed = false);
 
 public:
     // Rows added, changed or marked for deletion and not saved yet.
     bool hasUnsavedChanges() const override;
-    bool saveChanges() override { return save(); }
+    bool saveChanges() override { return save(true); }
     using HostedControl::SetPermission;
     // Remembers the buttons the rights refuse, so that no mode enables them again.
     void SetPermission(PermissionObject& PM) override;

@@ -31,10 +31,10 @@ QString plainCaption(const QuickFieldDefinition& field)
 
 } // namespace
 
-bool QuickGrid::save()
+bool QuickGrid::save(bool confirmed)
 {
     auto& messages = Services::messages();
-    if (!messages.question(ConfirmTitle, QStringLiteral("ท่านต้องการบันทึกข้อมูลที่เปลี่ยนแปลงนี้ ใช่หรือไม่")))
+    if (!confirmed && !messages.question(ConfirmTitle, QStringLiteral("ท่านต้องการบันทึกข้อมูลที่เปลี่ยนแปลงนี้ ใช่หรือไม่")))
         return false;
     if (m_filtered
         && !messages.question(ConfirmTitle,

@@ -311,7 +311,8 @@ TEST_P(WorkbenchTest, ClosingATabOrTheWindowOrLoggingOutAsksBeforeUnsavedWorkIsD
             editor->grid()->SetValue(1, 3, QString::fromUtf8(t.typed));
         EXPECT_EQ(editor->hasUnsavedChanges(), *t.typed != 0);
         scriptedMessages().saveAnswers = t.answer;
-        scriptedMessages().answers = {true};  // the editor's own confirmation of a save
+        // "Save" is the user's confirmation: the editor does not ask again (an unscripted
+        // question would fail the test).
         if (t.how == Window)
             window->close();
         else if (t.how == LogOut) {
