@@ -290,7 +290,7 @@ QString DocumentForm::pickName(const DocumentField& field) const
 
 QString DocumentForm::shownCaption(const DocumentField& field) const
 {
-    return LanguageID() == 0 || field.caption2.isEmpty() ? field.caption : field.caption2;
+    return isThai(LanguageID()) || field.caption2.isEmpty() ? field.caption : field.caption2;
 }
 
 void DocumentForm::retranslate()

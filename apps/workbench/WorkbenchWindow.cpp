@@ -138,7 +138,7 @@ void WorkbenchWindow::buildStatusBar()
     m_language = new QComboBox(this);
     m_language->addItem(QStringLiteral("ไทย"), 0);
     m_language->addItem(QStringLiteral("English"), 1);
-    m_language->setCurrentIndex(m_session.languageId == 0 ? 0 : 1);
+    m_language->setCurrentIndex(isThai(m_session.languageId) ? 0 : 1);
     connect(m_language, &QComboBox::currentIndexChanged, this, [this] { setLanguage(m_language->currentData().toInt()); });
     statusBar()->addPermanentWidget(m_userLabel);
     statusBar()->addPermanentWidget(m_companyLabel);
@@ -178,7 +178,7 @@ void WorkbenchWindow::fillModules(const QString& module)
         Recordset rs;
         rs.open(Sql("SELECT TCmGAlias, TCmGName, TCmGName2 FROM QD8TCommandGroup WHERE TCmGShow=1 AND TCmGFlag1=1 ORDER BY TCmGSort"), c);
         for (; !rs.eof(); rs.moveNext())
-            m_modules->addItem(rs.text(m_session.languageId == 0 ? QStringLiteral("TCmGName") : QStringLiteral("TCmGName2")),
+            m_modules->addItem(rs.text(QStringLiteral("TCmGName") + nameSuffix(m_session.languageId)),
                 rs.text(QStringLiteral("TCmGAlias")));
     } catch (const DbError& error) {
         showStatus(error.message());
@@ -261,7 +261,7 @@ void WorkbenchWindow::setLanguage(int languageId)
     }
     {
         QSignalBlocker quiet(m_language);
-        m_language->setCurrentIndex(languageId == 0 ? 0 : 1);
+        m_language->setCurrentIndex(isThai(languageId) ? 0 : 1);
     }
     Services::messages().setLanguage(languageId);
     fillModules(m_modules->currentData().toString());

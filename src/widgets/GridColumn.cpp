@@ -3,6 +3,7 @@
 #include "foundation/CommaList.h"
 #include "foundation/Currency.h"
 #include "foundation/DateText.h"
+#include "foundation/Language.h"
 #include "foundation/Values.h"
 
 #include <QDate>
@@ -552,7 +553,7 @@ GridInputProblem GridColumn::parseInput(const QString& text, QString& stored, Da
 
 QString GridColumn::problemText(GridInputProblem problem, int languageId)
 {
-    const bool thai = languageId == 0;
+    const bool thai = isThai(languageId);
     switch (problem) {
     case GridInputProblem::None:
         return {};
