@@ -49,7 +49,7 @@ void readForm(QuickFormMetadata& form, const Row& row)
     form.caption2 = row.text("TQFmCaption2");
     form.table = row.text("TQFmTable");
     form.view = row.text("TQFmView");
-    form.keyIden = row.text("TQFmKeyIDEN");
+    form.keyPrefix = row.text("TQFmKeyIDEN");
     form.pkList = row.text("TQFmPKList");
     form.where = row.text("TQFmWhere");
     form.order = row.text("TQFmOrder");

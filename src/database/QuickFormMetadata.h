@@ -8,15 +8,11 @@ namespace qd8 {
 
 class Connection;
 
-// One row of QD8TQuickField as read: the column of a quick form. Flags left Null take the
-// column's usual meaning (noted per member).
-struct QuickFieldMetadata {
+// What a quick-form column is, as read and as the editor keeps it. Flags left Null take
+// the column's usual meaning (noted per member).
+struct QuickFieldRules {
     QString fieldName;       // TQFFFieldName
-    QString caption;         // TQFFCaption (Thai)
-    QString caption2;        // TQFFCaption2 (English)
     QString type;            // TQFFFieldType through normalTypeWord: "LABELLIST", "NUMBER"...
-    QVariant width;          // TQFFWidth as stored; what Null or a non-number means is the reader's
-    bool active = true;      // TQFFFlag1 = 1
     bool primaryKey = false; // TQFFPrimaryKey = 1
     int decimals = 0;
     bool minCon = false;
@@ -35,16 +31,47 @@ struct QuickFieldMetadata {
     QString defaultText;
     QString runQuickForm;      // TQFFRunQuickForm: the F2 pick list
 
+    bool isLabelList() const { return type == QLatin1String("LABELLIST"); }
+};
+
+// One row of QD8TQuickField as read: the column's rules, both captions and the width as
+// stored.
+struct QuickFieldMetadata : QuickFieldRules {
+    QString caption;         // TQFFCaption (Thai)
+    QString caption2;        // TQFFCaption2 (English)
+    QVariant width;          // TQFFWidth as stored; what Null or a non-number means is the reader's
+    bool active = true;      // TQFFFlag1 = 1
+
     // TQFFCaption or TQFFCaption2 by the session language.
     const QString& captionIn(int languageId) const;
-    bool isLabelList() const { return type == QLatin1String("LABELLIST"); }
+};
+
+// What a quick form is, as read and as the editor keeps it.
+struct QuickFormRules {
+    QString table;       // TQFmTable: written to (and listed by the pick routines)
+    QString view;        // TQFmView: read from (and listed by SelectQuickForm)
+    QString keyPrefix;   // TQFmKeyIDEN: the column prefix, "TDiv"
+    QString where;       // TQFmWhere, "" for Null
+    QString order;       // TQFmOrder, "" for Null
+    int masterReportNo = 0;
+    bool deleteAuto = false;
+    QString deleteField;
+    QString deleteTable;
+    QString deleteMessage;
+    QString runQuickForm;
+    QString fieldFilter;
+    QString fieldReturn;
+    QString printCommand;  // TQFmPrintTCmdAlias
+    bool canAdd = true;    // Null: may
+    bool canDelete = true; // Null: may
+    bool readOnly = false;
 };
 
 // A quick form's metadata, QD8TQuickForm and its QD8TQuickField rows, read once by one
 // reader. The editor's definition (editors/QuickFormDefinition), the pick descriptions of
 // the pick routines and of the editor's SelectQuickForm (database/QuickFormPick) and the
 // print captions are all derived from it; nothing else reads these two tables.
-struct QuickFormMetadata {
+struct QuickFormMetadata : QuickFormRules {
     // Which statements are sent; each use keeps its own exact texts.
     enum class Reading {
         // The pick routines: "SELECT * FROM QD8TQuickForm WHERE TQFmAlias='<a>'",
@@ -66,24 +93,7 @@ struct QuickFormMetadata {
     bool found = false;  // the form row was there
     QString caption;     // TQFmCaption (Thai)
     QString caption2;    // TQFmCaption2 (English)
-    QString table;       // TQFmTable: written to (and listed by the pick routines)
-    QString view;        // TQFmView: read from (and listed by SelectQuickForm)
-    QString keyIden;     // TQFmKeyIDEN: the column prefix, "TDiv"
     QString pkList;      // TQFmPKList as stored (a leading comma included)
-    QString where;       // TQFmWhere, "" for Null
-    QString order;       // TQFmOrder, "" for Null
-    int masterReportNo = 0;
-    bool deleteAuto = false;
-    QString deleteField;
-    QString deleteTable;
-    QString deleteMessage;
-    QString runQuickForm;
-    QString fieldFilter;
-    QString fieldReturn;
-    QString printCommand;  // TQFmPrintTCmdAlias
-    bool canAdd = true;    // Null: may
-    bool canDelete = true; // Null: may
-    bool readOnly = false;
     QList<QuickFieldMetadata> fields;  // in TQFFSort order, as the reading selects them
 
     // TQFmCaption or TQFmCaption2 by the session language.

@@ -80,7 +80,7 @@ PickRequest quickFormPickRequest(const QuickFormMetadata& form, bool inUseFilter
     if (!form.where.isEmpty())
         where = QStringLiteral(" WHERE ") + form.where;
     else if (inUseFilter)
-        where = QStringLiteral(" WHERE ") + form.keyIden + QStringLiteral("Flag1=1");
+        where = QStringLiteral(" WHERE ") + form.keyPrefix + QStringLiteral("Flag1=1");
     if (!customFilter.isEmpty())
         where += QLatin1Char(' ') + customFilter;
     request.source = form.table + where + (form.order.isEmpty() ? QString() : QStringLiteral(" ORDER BY ") + form.order);
@@ -112,7 +112,7 @@ PickRequest quickFormPickQuery(const QuickFormMetadata& form, int languageId, co
     request.labelLists = labelListsOf(form);
 
     // A form's own filter replaces the active-row filter; it is not added to it.
-    QString where = QStringLiteral(" WHERE ") + (form.where.isEmpty() ? form.keyIden + QStringLiteral("Flag1=1") : form.where);
+    QString where = QStringLiteral(" WHERE ") + (form.where.isEmpty() ? form.keyPrefix + QStringLiteral("Flag1=1") : form.where);
     if (!scopeCondition.isEmpty())
         where += QStringLiteral(" AND ") + scopeCondition;
     if (!customFilter.isEmpty())

@@ -31,59 +31,22 @@ QuickFormDefinition QuickFormDefinition::fromMetadata(const QuickFormMetadata& m
     QuickFormDefinition form;
     if (!metadata.found)
         return form;
+    static_cast<QuickFormRules&>(form) = metadata;
     form.alias = metadata.alias;
     form.caption = metadata.captionIn(languageId);
-    form.where = metadata.where;
-    form.order = metadata.order;
-    form.masterReportNo = metadata.masterReportNo;
-    form.keyPrefix = metadata.keyIden;
-    form.deleteAuto = metadata.deleteAuto;
-    form.deleteField = metadata.deleteField;
-    form.deleteTable = metadata.deleteTable;
-    form.deleteMessage = metadata.deleteMessage;
-    form.runQuickForm = metadata.runQuickForm;
-    form.fieldFilter = metadata.fieldFilter;
-    form.fieldReturn = metadata.fieldReturn;
-    form.printCommand = metadata.printCommand;
-    form.canAdd = metadata.canAdd;
-    form.canDelete = metadata.canDelete;
-    form.readOnly = metadata.readOnly;
-    form.view = metadata.view;
-    form.table = metadata.table;
 
-    QStringList keys;
     for (const QuickFieldMetadata& m : metadata.fields) {
         QuickFieldDefinition f;
-        f.fieldName = m.fieldName;
-        f.runQuickForm = m.runQuickForm;
+        static_cast<QuickFieldRules&>(f) = m;
         // A column with a pick form says so: F2 opens it.
         f.caption = m.captionIn(languageId) + (f.runQuickForm.isEmpty() ? QString() : QStringLiteral(" (F2)"));
-        f.type = m.type;
-        f.primaryKey = m.primaryKey;
-        f.decimals = m.decimals;
-        f.minCon = m.minCon;
-        f.minValue = m.minValue;
-        f.maxCon = m.maxCon;
-        f.maxValue = m.maxValue;
-        f.maxLength = m.maxLength;
-        f.canDuplicate = m.canDuplicate;
-        f.canBlank = m.canBlank;
-        f.canEdit = m.canEdit;
-        f.canDeleteAlias = m.canDeleteAlias;
         f.width = m.width.isNull() ? 1440 : int(toNumber(m.width));
-        f.titleAlign = m.titleAlign;
-        f.rowAlign = m.rowAlign;
-        f.labelList = m.labelList;
-        f.defaultValue = m.defaultValue;
-        f.defaultText = m.defaultText;
         form.fields << f;
         if (f.primaryKey) {
             form.keyColumn = int(form.fields.size());
             form.keyField = f.fieldName;
-            keys << f.fieldName;
         }
     }
-    form.keyList = keys.join(QLatin1Char(','));
     // The rows' active flag, shown and edited as the last column.
     QuickFieldDefinition show;
     show.fieldName = form.keyPrefix + QStringLiteral("Flag1");
@@ -91,6 +54,7 @@ QuickFormDefinition QuickFormDefinition::fromMetadata(const QuickFormMetadata& m
     show.type = QStringLiteral("YESNO");
     show.width = 700;
     show.defaultValue = QStringLiteral("1");
+    show.canBlank = true;
     form.fields << show;
     return form;
 }

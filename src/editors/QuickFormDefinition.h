@@ -1,63 +1,28 @@
 #pragma once
 
+#include "database/QuickFormMetadata.h"
+
 #include <QList>
 #include <QString>
 
 namespace qd8 {
 
 class Connection;
-struct QuickFormMetadata;
 
-// One column of a quick form (QD8TQuickField).
-struct QuickFieldDefinition {
-    QString fieldName;
-    QString caption;        // in the session language, " (F2)" added when it has a pick form
-    QString type;           // TEXT, NUMBER, LABELLIST, YESNO, AUTONUMBER
-    bool primaryKey = false;
-    int decimals = 0;
-    bool minCon = false;
-    double minValue = 0;
-    bool maxCon = false;
-    double maxValue = 0;
-    int maxLength = 0;
-    bool canDuplicate = true;
-    bool canBlank = true;
-    bool canEdit = true;
-    QString canDeleteAlias;
+// One column of a quick form as the editor shows it: its rules, its caption in the session
+// language (" (F2)" added when it has a pick form) and its width in twips.
+struct QuickFieldDefinition : QuickFieldRules {
+    QString caption;
     int width = 1440;
-    int titleAlign = -1;
-    int rowAlign = -1;
-    QString labelList;
-    QString defaultValue;
-    QString defaultText;
-    QString runQuickForm;
 };
 
 // A quick form as the editor loads it (QD8TQuickForm and its active fields), plus the
 // "Show" column of the rows' active flag after the last field.
-struct QuickFormDefinition {
+struct QuickFormDefinition : QuickFormRules {
     QString alias;
-    QString caption;
-    QString view;           // read from
-    QString table;          // written to
-    QString keyPrefix;      // TQFmKeyIDEN: "TDiv"
-    QString keyList;        // every key field, comma-separated
+    QString caption;        // in the session language
     QString keyField;       // the last key field
     int keyColumn = 0;      // its grid column (1-based)
-    QString where;
-    QString order;
-    int masterReportNo = 0;
-    bool deleteAuto = false;
-    QString deleteField;
-    QString deleteTable;
-    QString deleteMessage;
-    QString runQuickForm;
-    QString fieldFilter;
-    QString fieldReturn;
-    QString printCommand;
-    bool canAdd = true;
-    bool canDelete = true;
-    bool readOnly = false;
     QList<QuickFieldDefinition> fields;  // grid columns 1..n, the flag column last
 
     bool isLoaded() const { return !alias.isEmpty(); }

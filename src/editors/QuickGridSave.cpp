@@ -142,7 +142,7 @@ QString QuickGrid::inUseProblem(Connection& data) const
                 app.open(ConnectionString());
             const QuickFormMetadata other = QuickFormMetadata::read(app, f.canDeleteAlias, QuickFormMetadata::Reading::FormOnly);
             if (other.found)
-                references.append({col, other.table, other.keyIden + f.fieldName});
+                references.append({col, other.table, other.keyPrefix + f.fieldName});
         }
     };
     for (int row = 1; row <= m_grid->Rows(); ++row) {
