@@ -31,7 +31,7 @@ protected:
     qint64 count() { return column("SELECT COUNT(*) AS N FROM QD8TSample", QStringLiteral("N")).value(0).toLongLong(); }
 };
 
-TEST_P(ConnectionTest, NullStaysDistinctFromEmptyText)
+TEST_P(ConnectionTest, NullStaysDistinctFromEmptyTextAndFieldsAreFoundByNameWhateverTheCase)
 {
     Connection connection;
     connection.open(db->connectionString());
@@ -40,17 +40,9 @@ TEST_P(ConnectionTest, NullStaysDistinctFromEmptyText)
     ASSERT_FALSE(rs.eof());
     EXPECT_FALSE(rs.field("TSmpCode").isNull());
     EXPECT_EQ(rs.field("TSmpCode").toString(), QString(""));
-    EXPECT_TRUE(rs.field("TSmpName").isNull());
-    EXPECT_TRUE(rs.field("TSmpAmount").isNull());
-    EXPECT_TRUE(rs.field("TSmpDate").isNull());
+    for (const char* name : {"TSmpName", "TSmpAmount", "TSmpDate"})
+        EXPECT_TRUE(rs.field(name).isNull()) << name;
     EXPECT_EQ(rs.text("TSmpName"), QString(""));
-}
-
-TEST_P(ConnectionTest, FieldsAreFoundByNameWhateverTheCase)
-{
-    Connection connection;
-    connection.open(db->connectionString());
-    Recordset rs;
     rs.open("SELECT TSmpCode, TSmpName FROM QD8TSample WHERE TSmpID=3", connection);
     for (const char* name : {"TSmpCode", "tsmpcode", "TSMPCODE", "TsMpCoDe"})
         EXPECT_EQ(rs.text(QString::fromLatin1(name)), QStringLiteral("C")) << name;
@@ -99,16 +91,7 @@ TEST_P(ConnectionTest, AValueHoldingAQuoteIsRefusedBeforeItReachesTheDatabase)
     EXPECT_EQ(count(), 6);
 }
 
-TEST_P(ConnectionTest, ExecuteReturnsTheRowsAffected)
-{
-    Connection connection;
-    connection.open(db->connectionString());
-    EXPECT_EQ(connection.execute("UPDATE QD8TSample SET TSmpCode='X' WHERE TSmpFlag1=1"), 4);
-    EXPECT_EQ(connection.execute("DELETE FROM QD8TSample WHERE TSmpID=99"), 0);
-    EXPECT_EQ(connection.execute("DELETE FROM QD8TSample WHERE TSmpFlag1 IS NULL OR TSmpFlag1=0"), 2);
-}
-
-TEST_P(ConnectionTest, AFailedStatementInATransactionLeavesNothingWritten)
+TEST_P(ConnectionTest, ExecuteCountsTheRowsAndAFailedTransactionLeavesNothingWritten)
 {
     Connection connection;
     connection.open(db->connectionString());
@@ -127,6 +110,9 @@ TEST_P(ConnectionTest, AFailedStatementInATransactionLeavesNothingWritten)
     next.open(db->connectionString());
     EXPECT_FALSE(next.inTransaction());
     EXPECT_EQ(count(), 6);
+    EXPECT_EQ(next.execute("UPDATE QD8TSample SET TSmpCode='X' WHERE TSmpFlag1=1"), 4);
+    EXPECT_EQ(next.execute("DELETE FROM QD8TSample WHERE TSmpID=99"), 0);
+    EXPECT_EQ(next.execute("DELETE FROM QD8TSample WHERE TSmpFlag1 IS NULL OR TSmpFlag1=0"), 2);
 }
 
 TEST_P(ConnectionTest, ATransactionGuardKeepsOnlyWhatWasCommitted)
@@ -136,8 +122,7 @@ TEST_P(ConnectionTest, ATransactionGuardKeepsOnlyWhatWasCommitted)
         std::function<void(Connection&, TransactionGuard&)> work;  // inserts row 7, then...
         qint64 rows;  // left in the table
     };
-    const Case cases[] = {
-        {"committed", [](Connection&, TransactionGuard& t) { t.commit(); }, 7},
+    const Case cases[] = {{"committed", [](Connection&, TransactionGuard& t) { t.commit(); }, 7},
         {"left without a commit", [](Connection&, TransactionGuard&) {}, 6},
         {"a failing statement on its way out",
             [](Connection& c, TransactionGuard&) { c.execute("INSERT INTO QD8TSample (TSmpID, TSmpCode) VALUES (1, 'dup')"); }, 6},

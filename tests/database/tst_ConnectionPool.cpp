@@ -7,11 +7,10 @@
 #include "foundation/TransactionGuard.h"
 #include "support/ScriptedServices.h"
 
-#include <QFile>
-
 #include <QElapsedTimer>
-#include <functional>
+#include <QFile>
 #include <cstdio>
+#include <functional>
 
 using namespace qd8;
 using namespace qd8::test;
@@ -52,13 +51,11 @@ TEST_P(ConnectionPoolTest, AWriterIsNotBlockedByAnOpenReader)
     EXPECT_LT(timer.elapsed(), 2000);
 
     // The reader still sees the rows as they were when it began.
-    Recordset during;
-    during.open("SELECT COUNT(*) AS N FROM QD8TSample", reader);
-    EXPECT_EQ(during.field("N").toInt(), 6);
+    before.open("SELECT COUNT(*) AS N FROM QD8TSample", reader);
+    EXPECT_EQ(before.field("N").toInt(), 6);
     reader.execute("COMMIT");
-    Recordset after;
-    after.open("SELECT COUNT(*) AS N FROM QD8TSample", reader);
-    EXPECT_EQ(after.field("N").toInt(), 7);
+    before.open("SELECT COUNT(*) AS N FROM QD8TSample", reader);
+    EXPECT_EQ(before.field("N").toInt(), 7);
 }
 
 TEST_P(ConnectionPoolTest, TheCommandCentreConnectionStringOpensTheCentreDatabase)

@@ -127,14 +127,8 @@ protected:
         return keys;
     }
 
-    static void choose(DucumentList& list, const char* combo, int index)
-    {
-        list.findChild<QComboBox*>(QString::fromLatin1(combo))->setCurrentIndex(index);
-    }
-    static void type(DucumentList& list, const char* box, const QString& text)
-    {
-        list.findChild<QLineEdit*>(QString::fromLatin1(box))->setText(text);
-    }
+    static void choose(DucumentList& list, const char* combo, int index) { list.findChild<QComboBox*>(combo)->setCurrentIndex(index); }
+    static void type(DucumentList& list, const char* box, const QString& text) { list.findChild<QLineEdit*>(box)->setText(text); }
 
     WindowFormCollection forms;
 };
@@ -146,11 +140,7 @@ const QString Head = QStringLiteral(
 
 TEST_P(DucumentListTest, EachStatusCodeComposesItsConditionAndListsItsDocuments)
 {
-    const struct {
-        int index;
-        QString condition;
-        QStringList documents;
-    } cases[] = {
+    const struct { int index; QString condition; QStringList documents; } cases[] = {
         {0, " AND TPRDCancelStatus<>1 AND TPRDConfirmStatus=1 AND TPRDApproveStatus=1", {"PR06"}},
         {1, " AND (TPRDCancelStatus<>1 AND TPRDConfirmStatus=1 AND TPRDApproveStatus<>1) ", {"PR02", "PR03", "PR04", "PR05"}},
         {2, " AND TPRDCancelStatus<>1 AND TPRDConfirmStatus=1", {"PR02", "PR03", "PR04", "PR05", "PR06"}},
@@ -248,11 +238,9 @@ TEST_P(DucumentListTest, FilterBoxesAddTheirConditionsInOrder)
     EXPECT_EQ(shown(list), QStringList({"PR03"}));
 
     // A Buddhist-era year is taken back; a quote in a box is refused with a message, never sent.
-    type(list, "txtFilter2", "");
-    type(list, "txtFilter3", "");
-    type(list, "txtBranch", "");
+    for (const char* box : {"txtFilter2", "txtFilter3", "txtBranch", "txtDateTo"})
+        type(list, box, "");
     type(list, "txtDateFrom", "01/02/2569");
-    type(list, "txtDateTo", "");
     list.runQuery();
     EXPECT_EQ(shown(list), QStringList({"PR08", "PR07", "PR06", "PR05", "PR04"}));
     scriptedMessages().reset();
@@ -299,10 +287,7 @@ TEST_P(DucumentListTest, CostColumnsAreHiddenFromUsersWithoutTheRight)
     runOnData({"DELETE FROM QD8TUserRight WHERE TURtTCmdAlias='ICINVENTORYCOST'",
         "INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun) VALUES (1, 'ICINVENTORYCOST', 1)",
         "INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun) VALUES (2, 'ICINVENTORYCOST', 0)"});
-    const struct {
-        qint32 user;
-        const char* widths;
-    } cases[] = {{1, "1500,1200,800,600,600,600"}, {2, "1500,0,800,0,600,600"}, {0, "1500,0,800,0,600,600"}};
+    const struct { qint32 user; const char* widths; } cases[] = {{1, "1500,1200,800,600,600,600"}, {2, "1500,0,800,0,600,600"}, {0, "1500,0,800,0,600,600"}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.user);
         DucumentList list;
@@ -329,11 +314,7 @@ TEST_P(DucumentListTest, TheMenuOptionSwitchesToTheVariantDefinition)
     EXPECT_EQ(list.CommandAlias(), "PURPR");
     EXPECT_EQ(shown(list), QStringList({"PR03", "PR06"}));
 
-    const struct {
-        const char* alias;
-        double option;
-        const char* used;
-    } variants[] = {{"PURPR", 1, "PURPRMB"}, {"ICLOTIN", 2, "ICLOTINMB"}, {"ICISSUEUSE", -1, "ICISSUEUSEMB"},
+    const struct { const char* alias; double option; const char* used; } variants[] = {{"PURPR", 1, "PURPRMB"}, {"ICLOTIN", 2, "ICLOTINMB"}, {"ICISSUEUSE", -1, "ICISSUEUSEMB"},
         {"ICISSUEUSE", 0, "ICISSUEUSE"}, {"PUPO", 1, "PUPO"}};
     for (const auto& v : variants)
         EXPECT_EQ(ListDefinition::variantAlias(QString::fromLatin1(v.alias), v.option), QString::fromLatin1(v.used)) << v.alias;
@@ -341,10 +322,7 @@ TEST_P(DucumentListTest, TheMenuOptionSwitchesToTheVariantDefinition)
 
 TEST_P(DucumentListTest, EditOpensOnlyDocumentsThatAreNotConfirmedApprovedOrCancelled)
 {
-    const struct {
-        int row;  // in TPRDNo order
-        const char* mode;
-    } cases[] = {{0, "EDIT"}, {1, "VIEW"}, {5, "VIEW"}, {6, "VIEW"}};
+    const struct { int row; const char* mode; } cases[] = {{0, "EDIT"}, {1, "VIEW"}, {5, "VIEW"}, {6, "VIEW"}};  // rows in TPRDNo order
     DucumentList list;
     open(list, "TESTPR");
     choose(list, "cboStatus", AllDocuments);
@@ -357,9 +335,7 @@ TEST_P(DucumentListTest, EditOpensOnlyDocumentsThatAreNotConfirmedApprovedOrCanc
         const QString key = list.dataView()->keyText();
         Q_EMIT list.dataView()->editRequested();
         ASSERT_NE(lastForm, nullptr);
-        EXPECT_EQ(lastForm->runMode, QString::fromLatin1(c.mode));
-        EXPECT_EQ(lastForm->docNo, key);
-        EXPECT_EQ(lastForm->newDocNo, key);
+        EXPECT_EQ(QStringList({lastForm->runMode, lastForm->docNo, lastForm->newDocNo}), QStringList({c.mode, key, key}));
         EXPECT_EQ(lastForm->calls, QStringList({"Setbuttons:" + QString::fromLatin1(c.mode), "FillData:" + key}));
         EXPECT_EQ(lastForm->windowTitle(), "ใบขอซื้อ - " + key);
         EXPECT_EQ(scriptedMessages().shown.size(), c.mode == QLatin1String("EDIT") ? 0 : 1);
@@ -389,11 +365,8 @@ TEST_P(DucumentListTest, OnlyDeleteModeTwoAsksTheHostToDelete)
         QSignalSpy captions(&list, &DucumentList::ChangeCaption);
         list.dataView()->setCurrentRow(2);
         Q_EMIT list.dataView()->deleteRequested();
-        EXPECT_EQ(deletes.size(), mode == 2 ? 1 : 0);
         EXPECT_EQ(captions.size(), mode == 2 ? 1 : 0);
-        if (mode == 2) {
-            EXPECT_EQ(deletes[0][0].toString(), "PR03");
-        }
+        EXPECT_EQ(deletes, mode == 2 ? QList<QVariantList>{{"PR03"}} : QList<QVariantList>{});
     }
 }
 
@@ -426,11 +399,7 @@ TEST_P(DucumentListTest, F2InACodeBoxPicksFromItsTableAndMovesOn)
 {
     define("TESTSO", "TFDLFilterStatus, TFDLFilterAR, TFDLFilterARByEmp, TFDLFilter1, TFDLFilterDivision",
         "'', 'TPRDRefNo', 1, 'BRANCH', 'TPRDTDepCode'");
-    const struct {
-        const char* box;
-        const char* keyField;
-        const char* source;
-    } cases[] = {
+    const struct { const char* box; const char* keyField; const char* source; } cases[] = {
         {"txtCustomer", "TARNCode",
             "QD8TAR INNER JOIN QD8TAR2 ON QD8TAR.TARNCode = QD8TAR2.TAR2TARNCode WHERE TARNCode<>'' AND TAR2SaleCode='E001'"},
         {"txtBranch", "TBraCode", "QD8TBranch"},
@@ -475,10 +444,7 @@ TEST_P(DucumentListTest, CaptionsNameTheCompanysCustomFields)
 
 TEST_P(DucumentListTest, LegendColoursTheRowsAndTheAutoButtonTogglesTheTimer)
 {
-    const struct {
-        const char* autoRefresh;
-        bool running;
-    } timers[] = {{"", false}, {"0", false}, {"30", true}, {"1", true}};
+    const struct { const char* autoRefresh; bool running; } timers[] = {{"", false}, {"0", false}, {"30", true}, {"1", true}};
     for (const auto& t : timers) {
         SCOPED_TRACE(t.autoRefresh);
         runOnApp({QStringLiteral("UPDATE QD8TFormDocList SET TFDLAutoRefresh='%1', TFDLLegendList='TPRDCancelStatus;=;1;#C0C0C0;;ยกเลิก,"
@@ -489,11 +455,11 @@ TEST_P(DucumentListTest, LegendColoursTheRowsAndTheAutoButtonTogglesTheTimer)
         choose(list, "cboStatus", AllDocuments);
         list.runQuery();
         auto* button = list.findChild<QPushButton*>("Command1");
-        EXPECT_EQ(list.autoRefreshRunning(), t.running);
-        EXPECT_EQ(button->text(), t.running ? "Stop" : "Auto");
-        button->click();
-        EXPECT_EQ(list.autoRefreshRunning(), !t.running);
-        EXPECT_EQ(button->text(), t.running ? "Auto" : "Stop");
+        for (const bool running : {t.running, !t.running}) {
+            EXPECT_EQ(list.autoRefreshRunning(), running);
+            EXPECT_EQ(button->text(), running ? "Stop" : "Auto");
+            button->click();
+        }
 
         // PR06 approved, PR07 cancelled, PR08 both: the first entry wins.
         QAbstractItemModel* model = list.dataView()->tableView()->model();

@@ -77,14 +77,11 @@ public:
 TEST_P(QuickGridPickTest, ThePickQueryListsEveryFieldAndFiltersActiveRows)
 {
     const PickRequest request = pick("QBRA");
-    EXPECT_EQ(request.title, "Branches");
-    EXPECT_EQ(request.keyField, "TBraCode");  // the leading comma is dropped
-    EXPECT_EQ(request.fieldList, "TBraCode,TBraName,TBraSort,TBraName2");  // inactive fields too
-    EXPECT_EQ(request.captionList, "Code,Name,Order,English");
-    EXPECT_EQ(request.widthList, "2000,4000,2000,2000");
-    EXPECT_EQ(request.typeList, "0,0,13,0");
-    EXPECT_EQ(request.source, "QD8TBranch WHERE TBraFlag1=1");
-    EXPECT_EQ(request.connectionString, dataConnectionString());
+    // The key without its leading comma; inactive fields listed too.
+    EXPECT_EQ(QStringList({request.title, request.keyField, request.fieldList, request.captionList, request.widthList, request.typeList,
+                  request.source, request.connectionString}),
+        QStringList({"Branches", "TBraCode", "TBraCode,TBraName,TBraSort,TBraName2", "Code,Name,Order,English", "2000,4000,2000,2000",
+            "0,0,13,0", "QD8TBranch WHERE TBraFlag1=1", dataConnectionString()}));
     EXPECT_EQ(request.dialogWidth, 0);  // exactly 10000 twips: the list sizes itself
     setWidth(9104, 2001);
     EXPECT_EQ(pick("QBRA").dialogWidth, 10000);
@@ -159,7 +156,6 @@ TEST_P(QuickGridPickTest, EmployeeScopeAsksThePermissionObjectTheHostHandedOver)
     grid.SetPermission(std::move(shared));
     EXPECT_EQ(pick("QD8TEmployeeType", 1).source, limited);
     EXPECT_EQ(handed->asked, QStringList{"TEmTCode@0"});
-    EXPECT_EQ(grid.permission(), handed);
     grid.SetPermission(nullptr);
     EXPECT_EQ(grid.permission(), nullptr);
 }
@@ -173,8 +169,7 @@ TEST_P(QuickGridPickTest, ALabelListColumnHandsItsLabelsToThePickList)
     EXPECT_EQ(branches.typeList, "0,0,13,0");
     EXPECT_EQ(branches.labelLists, (QStringList{"", "", "1;หนึ่ง,2;สอง", ""}));
     const PickRequest projects = pick("PROJECT");
-    EXPECT_EQ(projects.fieldList, "TPrjCode,TPrjName,TPrjName2,TPrjLevel");
-    EXPECT_EQ(projects.typeList, "0,0,0,13");
+    EXPECT_EQ(projects.fieldList + "|" + projects.typeList, "TPrjCode,TPrjName,TPrjName2,TPrjLevel|0,0,0,13");
     EXPECT_EQ(projects.labelLists, (QStringList{"", "", "", "0;บริษัท,1;ฝ่าย,2;แผนก"}));
 
     grid.cmdWhereShow("PROJECT");
@@ -243,9 +238,8 @@ TEST_P(QuickGridPickTest, AutomaticPrintHandsTheCodeListStatementToTheHost)
     grid.cmdWhereShow("QBRA");
     grid.button("Print")->trigger();
     ASSERT_EQ(printed.size(), 2);
-    EXPECT_EQ(printed[0][0], "SELECT TBraCode AS TDivCode, TBraName AS TDivName, TBraName2 AS TDivName2 ,TBraFlag1 AS TDivFlag1 FROM QD8TBranch ORDER BY TBraCode");
-    EXPECT_EQ(printed[0][1], "2");
-    EXPECT_EQ(printed[0][2], "Title;Branches#Caption1;Code#Caption2;Name#Caption3;English");
+    EXPECT_EQ(printed[0], QStringList({"SELECT TBraCode AS TDivCode, TBraName AS TDivName, TBraName2 AS TDivName2 ,TBraFlag1 AS TDivFlag1 "
+                                       "FROM QD8TBranch ORDER BY TBraCode", "2", "Title;Branches#Caption1;Code#Caption2;Name#Caption3;English"}));
     EXPECT_EQ(printed[1][0], "SELECT TBraCode AS TDivCode, TBraName AS TDivName, TBraFlag1 AS TDivFlag1 FROM QD8TBranch ORDER BY TBraCode");
     EXPECT_EQ(printed[1][2], "Title;Branches#Caption1;Code#Caption2;Name");
 
