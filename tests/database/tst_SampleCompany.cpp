@@ -68,6 +68,28 @@ QString drawingProblem(const QImage& image)
     return white == 0 ? QStringLiteral("no glyph") : coloured == 0 ? QStringLiteral("no colour") : QString();
 }
 
+// The init arguments that put the three databases on the PostgreSQL server, each named
+// <prefix><file name>; the names are added to names.
+QStringList postgresDatabases(const QString& prefix, QStringList& names)
+{
+    QStringList arguments;
+    const char* const options[] = {"--app", "--center", "--data"};
+    const DatabaseRole roles[] = {DatabaseRole::Application, DatabaseRole::CommandCentre, DatabaseRole::CompanyData};
+    for (int i = 0; i < 3; ++i) {
+        names << prefix + Schema::fileName(roles[i]);
+        arguments << QLatin1String(options[i]) << QStringLiteral("Driver=PostgreSQL;Database=") + names.back();
+    }
+    return arguments;
+}
+
+void dropDatabases(const QStringList& names)
+{
+    Connection server;
+    server.open(ScratchDatabase::postgresAdminConnectionString());
+    for (const QString& name : names)
+        server.execute(Sql(QStringLiteral("DROP DATABASE IF EXISTS \"%1\" WITH (FORCE)").arg(name)));
+}
+
 class SampleFilesTest : public testing::Test {
 protected:
     void SetUp() override
@@ -116,11 +138,7 @@ TEST_F(SampleFilesTest, OemSettingsReadTheThemeFileAndTheStartupOverrides)
     // AppPath as the suite writes it, with backslashes.
     const OemSettings oem(QString(dir.path()).replace(QLatin1Char('/'), QLatin1Char('\\')));
     EXPECT_EQ(oem.shortName(), QStringLiteral("QD8"));
-    struct Case {
-        const char* key;
-        const char* address;
-    };
-    const Case pages[] = {
+    const struct { const char* key; const char* address; } pages[] = {
         {"MARKETINGURL", "https://www.qd8.example/sales"},
         {"FAQURL", "https://www.qd8.example/"},                    // empty: the web site
         {"KBASEURL", "https://www.qd8.example/"},
@@ -128,7 +146,7 @@ TEST_F(SampleFilesTest, OemSettingsReadTheThemeFileAndTheStartupOverrides)
         {"NEWSURL", "https://www.qd8.example/news"},               // empty override keeps the theme's
         {"SUPPORTEMAIL", "helpdesk@siamtrading.example"},
     };
-    for (const Case& c : pages)
+    for (const auto& c : pages)
         EXPECT_EQ(oem.webPage(QLatin1String(c.key)), QLatin1String(c.address)) << c.key;
     const QString about = oem.value(QStringLiteral("ABOUT"));
     EXPECT_TRUE(about.startsWith(QStringLiteral("QD8 Business Suite"))) << about.toStdString();
@@ -176,14 +194,9 @@ TEST(SampleFiles, ThePostgresFormWritesTheFilesWhereItIsTold)
         GTEST_SKIP() << "no PostgreSQL server";
     QTemporaryDir files;
     const QString prefix = QStringLiteral("files%1_").arg(QCoreApplication::applicationPid());
-    QStringList arguments{QStringLiteral("init"), QStringLiteral("--files"), files.path()};
     QStringList names;
-    const char* const options[] = {"--app", "--center", "--data"};
-    const DatabaseRole roles[] = {DatabaseRole::Application, DatabaseRole::CommandCentre, DatabaseRole::CompanyData};
-    for (int i = 0; i < 3; ++i) {
-        names << prefix + Schema::fileName(roles[i]);
-        arguments << QLatin1String(options[i]) << QStringLiteral("Driver=PostgreSQL;Database=") + names.back();
-    }
+    const QStringList arguments = QStringList{QStringLiteral("init"), QStringLiteral("--files"), files.path()}
+        + postgresDatabases(prefix, names);
     QString output;
     EXPECT_EQ(runAdmin(arguments, &output), 0) << output.toStdString();
     EXPECT_EQ(OemSettings(files.path()).shortName(), QStringLiteral("QD8"));
@@ -198,11 +211,7 @@ TEST(SampleFiles, ThePostgresFormWritesTheFilesWhereItIsTold)
     // A second run without --force refuses before it touches a database or a file.
     EXPECT_EQ(runAdmin(arguments, &output), 1);
     EXPECT_TRUE(output.contains(QStringLiteral("Theme.ini already exists"))) << output.toStdString();
-
-    Connection server;
-    server.open(ScratchDatabase::postgresAdminConnectionString());
-    for (const QString& name : names)
-        server.execute(Sql(QStringLiteral("DROP DATABASE IF EXISTS \"%1\" WITH (FORCE)").arg(name)));
+    dropDatabases(names);
 }
 
 // A row of the list definitions, every column as text under its lower-case name.
@@ -323,11 +332,9 @@ TEST_P(SampleListsTest, ParallelListsMatchTheColumnsAndEveryFormIsOneTheWorkbenc
             EXPECT_EQ(d.list(parallel).size(), columns) << parallel;
         for (const QString& type : d.list("TFDLTypeList"))
             EXPECT_TRUE(QStringList({"0", "1", "2", "3", "4"}).contains(type)) << type.toStdString();
-        for (QString width : d.list("TFDLWidthList")) {
-            bool number = false;
-            width.remove(QStringLiteral("{COST}")).toInt(&number);
-            EXPECT_TRUE(number) << width.toStdString();
-        }
+        const auto isNumber = [](const QString& text) { bool number = false; text.toInt(&number); return number; };
+        for (QString width : d.list("TFDLWidthList"))
+            EXPECT_TRUE(isNumber(width.remove(QStringLiteral("{COST}")))) << width.toStdString();
         EXPECT_TRUE((d.isMaster() ? MasterForms : DocumentForms).contains(d["TFDLFormDetail"])) << d["TFDLFormDetail"].toStdString();
         EXPECT_EQ(d.list("TFDLOrderList").size(), d.list("TFDLOrderQuery").size());
         EXPECT_LT(d["TFDLDefaultOrder"].toInt(), qMax<qsizetype>(1, d.list("TFDLOrderList").size()));
@@ -343,11 +350,8 @@ TEST_P(SampleListsTest, ParallelListsMatchTheColumnsAndEveryFormIsOneTheWorkbenc
             EXPECT_TRUE(code.isEmpty() || (code.toInt() >= 0 && code.toInt() <= 10 && code == QString::number(code.toInt())))
                 << "status code " << code.toStdString();
         EXPECT_EQ(d["TFDLFilterBackDate"], "1");
-        for (const QString& days : d.list("TFDLBACKDAYLIST")) {
-            bool number = false;
-            days.toInt(&number);
-            EXPECT_TRUE(number) << days.toStdString();
-        }
+        for (const QString& days : d.list("TFDLBACKDAYLIST"))
+            EXPECT_TRUE(isNumber(days)) << days.toStdString();
     }
 }
 
@@ -448,11 +452,7 @@ QD8_ON_BOTH_ENGINES(SampleListsTest);
 // refers to a master's column, so a master row still referred to must not be deleted.
 class SampleReferencesTest : public SampleCompanyTest {
 protected:
-    struct Reference {
-        QString table;
-        QString column;
-        bool operator==(const Reference&) const = default;
-    };
+    struct Reference { QString table; QString column; bool operator==(const Reference&) const = default; };
     struct Master {
         QString alias;
         QString table;
@@ -572,14 +572,8 @@ protected:
             target = {dir.path()};
             dataCs = QStringLiteral("Driver=SQLite;Data Source=") + dir.filePath(QStringLiteral("QD8Data.dat"));
         } else {
-            const QString prefix = QStringLiteral("gen%1_").arg(QCoreApplication::applicationPid());
-            const char* const options[] = {"--app", "--center", "--data"};
-            const DatabaseRole roles[] = {DatabaseRole::Application, DatabaseRole::CommandCentre, DatabaseRole::CompanyData};
-            for (int i = 0; i < 3; ++i) {
-                names << prefix + Schema::fileName(roles[i]);
-                init << QLatin1String(options[i]) << QStringLiteral("Driver=PostgreSQL;Database=") + names.back();
-            }
-            init << QStringLiteral("--force");
+            init << postgresDatabases(QStringLiteral("gen%1_").arg(QCoreApplication::applicationPid()), names)
+                 << QStringLiteral("--force");
             dataCs = QStringLiteral("Driver=PostgreSQL;Database=") + names.back();
             target = {QStringLiteral("--data"), dataCs};
         }
@@ -589,12 +583,8 @@ protected:
     void TearDown() override
     {
         ConnectionPool::instance().clear(dataCs);
-        if (names.isEmpty())
-            return;
-        Connection server;
-        server.open(ScratchDatabase::postgresAdminConnectionString());
-        for (const QString& name : names)
-            server.execute(Sql(QStringLiteral("DROP DATABASE IF EXISTS \"%1\" WITH (FORCE)").arg(name)));
+        if (!names.isEmpty())
+            dropDatabases(names);
     }
     int generate(const QStringList& arguments, QString* output)
     {
@@ -657,10 +647,7 @@ TEST_P(GenerateDocumentsTest, AddsExactlyTheRowsAskedWithNewNumbersEveryStatusAn
 TEST_P(GenerateDocumentsTest, BadArgumentsAreRefusedBeforeTheDatabaseIsTouched)
 {
     const qint64 before = number(QStringLiteral("SELECT COUNT(*) FROM QD8TPR"));
-    const struct {
-        QStringList arguments;
-        const char* message;
-    } cases[] = {
+    const struct { QStringList arguments; const char* message; } cases[] = {
         {{"--rows", "abc"}, "--rows"},
         {{"--rows", "-5"}, "--rows"},
         {{"--rows", "0"}, "--rows"},

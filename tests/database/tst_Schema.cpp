@@ -90,12 +90,11 @@ TEST_P(SchemaTest, CheckReportsMissingTablesAndColumns)
     db.createSchema(DatabaseRole::Application);
     db.run({QStringLiteral("DROP VIEW QD8VCommand"), QStringLiteral("ALTER TABLE QD8TQuickField DROP COLUMN TQFFFieldName")});
     const auto problems = Schema::check(db.connectionString(), DatabaseRole::Application);
-    ASSERT_EQ(problems.size(), 2);
     QStringList seen;
     for (const auto& p : problems)
         seen << p.table.toLower() + QLatin1Char(':') + p.missingColumns.join(',');
-    EXPECT_TRUE(seen.contains(QStringLiteral("qd8vcommand:"))) << seen.join(' ').toStdString();
-    EXPECT_TRUE(seen.contains(QStringLiteral("qd8tquickfield:tqfffieldname"))) << seen.join(' ').toStdString();
+    seen.sort();
+    EXPECT_EQ(seen, QStringList({"qd8tquickfield:tqfffieldname", "qd8vcommand:"}));
 }
 
 QD8_ON_BOTH_ENGINES(SchemaTest);
@@ -254,22 +253,14 @@ TEST_P(SampleSchemaTest, TheSampleFormsShowWhatTheyAreThereToShow)
     const struct {
         const char* form;
         const char* feature;
-        const char* condition;  // on QD8TQuickForm f
+        const char* condition;  // on QD8TQuickForm f, or from "q." on a field q of it
     } cases[] = {
-        {"UNIT", "a key the database assigns",
-            "EXISTS (SELECT 1 FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFFieldType='AUTONUMBER' AND q.TQFFPrimaryKey=1)"},
-        {"UNIT", "a yes/no field",
-            "EXISTS (SELECT 1 FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFFieldType='YESNO' AND q.TQFFFlag1=1)"},
-        {"UNIT", "a number with decimals and both bounds",
-            "EXISTS (SELECT 1 FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFFieldType='NUMBER' AND q.TQFFDecimal>0 "
-            "AND q.TQFFMinCon=1 AND q.TQFFMaxCon=1 AND q.TQFFMinValue<q.TQFFMaxValue)"},
-        {"UNIT", "a text of limited length that no two rows share",
-            "EXISTS (SELECT 1 FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFFieldType='TEXT' AND q.TQFFMaxlength>0 "
-            "AND q.TQFFCanDuplicate=0 AND q.TQFFPrimaryKey=0)"},
-        {"PROJECT", "a label list",
-            "EXISTS (SELECT 1 FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFFieldType='LABELLIST' AND q.TQFFFlag1=1)"},
-        {"DEPARTMENT", "an F2 pick list",
-            "EXISTS (SELECT 1 FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFRunQuickForm='DIVISION')"},
+        {"UNIT", "a key the database assigns", "q.TQFFFieldType='AUTONUMBER' AND q.TQFFPrimaryKey=1"},
+        {"UNIT", "a yes/no field", "q.TQFFFieldType='YESNO' AND q.TQFFFlag1=1"},
+        {"UNIT", "a number with decimals and both bounds", "q.TQFFFieldType='NUMBER' AND q.TQFFDecimal>0 AND q.TQFFMinCon=1 AND q.TQFFMaxCon=1 AND q.TQFFMinValue<q.TQFFMaxValue"},
+        {"UNIT", "a text of limited length that no two rows share", "q.TQFFFieldType='TEXT' AND q.TQFFMaxlength>0 AND q.TQFFCanDuplicate=0 AND q.TQFFPrimaryKey=0"},
+        {"PROJECT", "a label list", "q.TQFFFieldType='LABELLIST' AND q.TQFFFlag1=1"},
+        {"DEPARTMENT", "an F2 pick list", "q.TQFFRunQuickForm='DIVISION'"},
         {"SECTION", "a two-column key",
             "(SELECT COUNT(*) FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFPrimaryKey=1 AND q.TQFFFlag1=1)=2"},
         {"DIVISION", "a deletion check with its own message",
@@ -279,16 +270,19 @@ TEST_P(SampleSchemaTest, TheSampleFormsShowWhatTheyAreThereToShow)
         {"PRODUCTLINE", "read-only", "f.TQFmReadOnly=1"},
         {"BRANCH", "rows are never deleted", "f.TQFmCanDelete=0 AND f.TQFmReadOnly=0"},
         {"JOURNALBOOK", "rows are neither added nor deleted", "f.TQFmCanAdd=0 AND f.TQFmCanDelete=0 AND f.TQFmReadOnly=0"},
-        {"BRANCH", "a field kept but not in use",
-            "EXISTS (SELECT 1 FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND q.TQFFFlag1=0)"},
+        {"BRANCH", "a field kept but not in use", "q.TQFFFlag1=0"},
     };
     Connection app;
     app.open(appConnectionString());
-    for (const auto& c : cases)
+    for (const auto& c : cases) {
+        QString condition = QString::fromLatin1(c.condition);
+        if (condition.startsWith(QLatin1String("q.")))
+            condition = QStringLiteral("EXISTS (SELECT 1 FROM QD8TQuickField q WHERE q.TQFFTQFmAlias=f.TQFmAlias AND %1)").arg(condition);
         EXPECT_EQ(column(app, Sql("SELECT f.TQFmAlias FROM QD8TQuickForm f WHERE f.TQFmFlag1=1 AND f.TQFmAlias='") + c.form + "' AND "
-                                  + c.condition),
+                                  + condition),
             QStringList{QString::fromLatin1(c.form)})
             << c.form << ": " << c.feature;
+    }
 }
 
 // A command is listed only with a right row, and user 0 is the template every new user

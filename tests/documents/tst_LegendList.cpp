@@ -31,11 +31,7 @@ private:
 const QDate Today(2026, 3, 15);
 const QVariant Null;
 
-struct HoldsCase {
-    const char* legend;
-    HashRow row;
-    bool holds;
-};
+struct HoldsCase { const char* legend; HashRow row; bool holds; };
 
 // Loads each one-entry legend and checks it loads cleanly and holds (or not) for its row.
 void expectHolds(const std::vector<HoldsCase>& cases, const QString& prefix = QStringLiteral("TPRD"))
@@ -192,10 +188,7 @@ TEST(LegendList, FirstEntryThatHoldsColoursTheRow)
 
 TEST(LegendList, ColoursComeInThreeNotations)
 {
-    const struct {
-        const char* colour;
-        QColor expected;
-    } cases[] = {
+    const struct { const char* colour; QColor expected; } cases[] = {
         {"#00FF00", QColor(0, 255, 0)},
         {"#1a2b3c", QColor(0x1a, 0x2b, 0x3c)},
         {"navy", QColor(0, 0, 128)},
@@ -218,10 +211,7 @@ TEST(LegendList, ColoursComeInThreeNotations)
 
 TEST(LegendList, BadEntriesAreKeptOutAndNamed)
 {
-    const struct {
-        const char* bad;
-        const char* reason;
-    } cases[] = {
+    const struct { const char* bad; const char* reason; } cases[] = {
         {"TPRDStatus;LIKE;1;red", "LIKE"},
         {"TPRDStatus;=;1;purplish", "purplish"},
         {"TPRDStatus;=;1;16777216", "16777216"},
@@ -240,8 +230,8 @@ TEST(LegendList, BadEntriesAreKeptOutAndNamed)
             QStringLiteral("TPRD"));
         ASSERT_EQ(legend.entries().size(), 2);
         EXPECT_EQ(legend.entries()[1].colour, QColor(0, 255, 0));
-        EXPECT_TRUE(legend.notice().contains(QLatin1String(c.bad))) << legend.notice().toStdString();
-        EXPECT_TRUE(legend.notice().contains(QLatin1String(c.reason))) << legend.notice().toStdString();
+        EXPECT_TRUE(legend.notice().contains(QLatin1String(c.bad)) && legend.notice().contains(QLatin1String(c.reason)))
+            << legend.notice().toStdString();
         EXPECT_EQ(legend.notice().count(QLatin1Char('\n')), 0);
     }
 }
@@ -256,8 +246,7 @@ TEST(LegendList, ReloadingForgetsTheEarlierList)
     ASSERT_EQ(legend.entries().size(), 1);
     EXPECT_FALSE(legend.colourOf(HashRow{{"TPRDStatus", 1}}).isValid());
     legend.load(QString(), QStringLiteral("TPRD"));
-    EXPECT_TRUE(legend.isEmpty());
-    EXPECT_TRUE(legend.notice().isEmpty());
+    EXPECT_TRUE(legend.isEmpty() && legend.notice().isEmpty());
 }
 
 class LegendOptionsTest : public SampleCompanyTest {
@@ -287,12 +276,7 @@ TEST_P(LegendOptionsTest, AlertKeywordsReadTheCompanyOptions)
     const auto colour = [&legend](QVariant status, int dueIn, QVariant acknowledged) {
         return legend.colourOf(HashRow{{"TIvoBillStatus", status}, {"TIvoDueDate", Today.addDays(dueIn)}, {"TPO2Acknowledge", acknowledged}});
     };
-    const struct {
-        QVariant status;
-        int dueIn;
-        QVariant acknowledged;
-        QColor expected;
-    } cases[] = {
+    const struct { QVariant status; int dueIn; QVariant acknowledged; QColor expected; } cases[] = {
         {0, 5, Null, Qt::red},
         {0, 6, Null, QColor(0, 0, 255)},
         {1, 3, Null, QColor(0, 128, 0)},

@@ -12,23 +12,6 @@ using namespace qd8;
 
 namespace {
 
-// Turns the model tester's complaints into test failures instead of log lines.
-class ModelTesterLog {
-public:
-    ModelTesterLog() { s_previous = qInstallMessageHandler(&ModelTesterLog::handle); }
-    ~ModelTesterLog() { qInstallMessageHandler(s_previous); }
-    QStringList complaints() const { return s_complaints; }
-
-private:
-    static void handle(QtMsgType type, const QMessageLogContext& context, const QString& message)
-    {
-        if (type != QtDebugMsg && QLatin1String(context.category ? context.category : "") == QLatin1String("qt.modeltest"))
-            s_complaints << message;
-    }
-    static inline QtMessageHandler s_previous = nullptr;
-    static inline QStringList s_complaints;
-};
-
 GridColumn makeColumn(GridColumnType type, int decimals = 0, const QString& labelList = {})
 {
     GridColumn c;
@@ -43,14 +26,13 @@ const QString Sexes = QStringLiteral("M;ชาย,F;หญิง");
 
 TEST(GridColumnTypes, TypeWordsAreReadInAnyCaseAndUnknownWordsGiveText)
 {
-    struct Case { const char* word; std::optional<GridColumnType> type; };
-    const Case cases[] = {
+    const struct { const char* word; std::optional<GridColumnType> type; } cases[] = {
         {"TEXT", GridColumnType::Text}, {"number", GridColumnType::Number}, {" AbsNumber ", GridColumnType::AbsNumber},
         {"AUTONUMBER", GridColumnType::AutoNumber}, {"DATE", GridColumnType::Date}, {"DateTime", GridColumnType::DateTime},
         {"TIME", GridColumnType::Time}, {"YESNO", GridColumnType::YesNo}, {"CHECK", GridColumnType::Check},
         {"LABELLIST", GridColumnType::LabelList}, {"COLOR", GridColumnType::Color}, {"MEMO", std::nullopt}, {"", std::nullopt},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         EXPECT_EQ(GridColumn::typeFromWord(QString::fromUtf8(c.word)), c.type) << c.word;
         if (c.type) {
             EXPECT_EQ(GridColumn::typeFromWord(GridColumn::typeWord(*c.type)), c.type) << c.word;
@@ -71,8 +53,7 @@ TEST(GridColumnTypes, LabelListsGiveCodesByNameOrPosition)
 
 TEST(GridColumnTypes, CellsShowTheirTypeFormatted)
 {
-    struct Case { GridColumn column; const char* stored; int language; const char* shown; };
-    const Case cases[] = {
+    const struct { GridColumn column; const char* stored; int language; const char* shown; } cases[] = {
         {makeColumn(GridColumnType::Number, 2), "1234567.891", 0, "1,234,567.89"},
         {makeColumn(GridColumnType::Number, 2), "999.995", 0, "1,000.00"},
         {makeColumn(GridColumnType::Number, 2), "-0.004", 0, "0.00"},
@@ -92,7 +73,7 @@ TEST(GridColumnTypes, CellsShowTheirTypeFormatted)
         {makeColumn(GridColumnType::Color), "255", 0, "#FF0000"},
         {makeColumn(GridColumnType::Color), "16711680", 0, "#0000FF"},
     };
-    for (const Case& c : cases)
+    for (const auto& c : cases)
         EXPECT_EQ(c.column.displayText(QString::fromUtf8(c.stored), DateLook::forLanguage(c.language).era), QString::fromUtf8(c.shown))
             << GridColumn::typeWord(c.column.type).toStdString() << " " << c.stored;
 }
@@ -100,8 +81,7 @@ TEST(GridColumnTypes, CellsShowTheirTypeFormatted)
 TEST(GridColumnTypes, TypedTextIsCheckedAndKeptInStoredForm)
 {
     using P = GridInputProblem;
-    struct Case { GridColumn column; const char* typed; P problem; const char* stored; };
-    const Case cases[] = {
+    const struct { GridColumn column; const char* typed; P problem; const char* stored; } cases[] = {
         {makeColumn(GridColumnType::Number, 2), "1,234.567", P::None, "1234.57"},
         {makeColumn(GridColumnType::Number, 2), "-12.005", P::None, "-12.01"},
         {makeColumn(GridColumnType::Number, 2), "", P::None, ""},
@@ -127,7 +107,7 @@ TEST(GridColumnTypes, TypedTextIsCheckedAndKeptInStoredForm)
         {makeColumn(GridColumnType::YesNo), "Yes", P::None, "1"},
         {makeColumn(GridColumnType::LabelList, 0, Sexes), "หญิง", P::None, "F"},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         QString stored;
         EXPECT_EQ(c.column.parseInput(QString::fromUtf8(c.typed), stored, DateEra::Buddhist), c.problem) << c.typed;
         if (c.problem == P::None) {
@@ -138,8 +118,7 @@ TEST(GridColumnTypes, TypedTextIsCheckedAndKeptInStoredForm)
 
 TEST(GridColumnTypes, ValuesCarryTheTypeAHostWrites)
 {
-    struct Case { GridColumn column; const char* stored; QVariant value; };
-    const Case cases[] = {
+    const struct { GridColumn column; const char* stored; QVariant value; } cases[] = {
         {makeColumn(GridColumnType::Text), "", QVariant(QString())},
         {makeColumn(GridColumnType::Number, 0), "12", QVariant(qlonglong(12))},
         {makeColumn(GridColumnType::Number, 0), "12.5", QVariant::fromValue(Currency::fromRaw(125000))},
@@ -154,7 +133,7 @@ TEST(GridColumnTypes, ValuesCarryTheTypeAHostWrites)
         {makeColumn(GridColumnType::DateTime), "2026-01-31 13:45:00", QVariant(QDateTime(QDate(2026, 1, 31), QTime(13, 45)))},
         {makeColumn(GridColumnType::Color), "255", QVariant(qlonglong(255))},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         const QVariant v = c.column.value(QString::fromUtf8(c.stored));
         EXPECT_EQ(v.isNull(), c.value.isNull()) << c.stored;
         EXPECT_EQ(v.typeId(), c.value.typeId()) << c.stored;
@@ -190,8 +169,7 @@ protected:
 
 TEST_F(GridEditorModelTest, KeepsTheModelContractThroughEveryChange)
 {
-    ModelTesterLog log;
-    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Warning);
+    QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     model.insertRows(1, 2);
     model.setText(1, 1, QStringLiteral("ใหม่"));
     model.markDeleted(1);
@@ -202,7 +180,6 @@ TEST_F(GridEditorModelTest, KeepsTheModelContractThroughEveryChange)
     model.clearRows();
     model.appendRow({QStringLiteral("D09")});
     model.clear();
-    EXPECT_TRUE(log.complaints().isEmpty()) << log.complaints().join(u'\n').toStdString();
 }
 
 TEST_F(GridEditorModelTest, ChangesBufferPerRowAndMarkIt)
@@ -219,12 +196,10 @@ TEST_F(GridEditorModelTest, ChangesBufferPerRowAndMarkIt)
     EXPECT_EQ(model.mark(0), QStringLiteral("E"));
     EXPECT_EQ(model.rowEdit(0).operation, GridEditorModel::RowOperation::Update);
     EXPECT_EQ(model.rowEdit(0).original, (QMap<int, QString>{{1, QStringLiteral("ฝ่ายขาย")}}));
-    EXPECT_EQ(byCode.count(), 1);
-    EXPECT_EQ(byUser.count(), 0);
+    EXPECT_EQ(QList<qsizetype>({byCode.count(), byUser.count()}), QList<qsizetype>({1, 0}));
 
     EXPECT_TRUE(model.setData(model.index(0, 2), QStringLiteral("7,500.5")));
-    EXPECT_EQ(byUser.count(), 1);
-    EXPECT_EQ(byCode.count(), 1);
+    EXPECT_EQ(QList<qsizetype>({byCode.count(), byUser.count()}), QList<qsizetype>({1, 1}));
     EXPECT_EQ(model.text(0, 2), QStringLiteral("7,500.50"));
     EXPECT_EQ(model.rowEdit(0).original.keys(), (QList<int>{1, 2}));
 
@@ -256,10 +231,8 @@ TEST_F(GridEditorModelTest, NewRowsAreMarkedAndDeletingThemRemovesThem)
     model.acceptChanges();
     ASSERT_EQ(model.rowCount(), 2);
     EXPECT_EQ(model.text(1, 0), QStringLiteral("D03"));
-    for (int r = 0; r < model.rowCount(); ++r) {
-        EXPECT_EQ(model.mark(r), QString());
-        EXPECT_FALSE(model.isNewRow(r));
-    }
+    for (int r = 0; r < model.rowCount(); ++r)
+        EXPECT_TRUE(model.mark(r).isEmpty() && !model.isNewRow(r)) << r;
 }
 
 TEST_F(GridEditorModelTest, EditabilityFollowsColumnRowAndMode)
@@ -285,12 +258,11 @@ TEST_F(GridEditorModelTest, RefusedValuesKeepTheCellAndSayWhy)
 {
     QSignalSpy refused(&model, &GridEditorModel::valueRefused);
     QSignalSpy byUser(&model, &GridEditorModel::cellEdited);
-    struct Case { int language; int column; const char* typed; const char* message; };
-    const Case builtIn[] = {
+    const struct { int language; int column; const char* typed; const char* message; } builtIn[] = {
         {0, 2, "-", "กรุณาระบุเป็นตัวเลข"},
         {1, 2, "12x", "Please enter a number"},
     };
-    for (const Case& c : builtIn) {
+    for (const auto& c : builtIn) {
         model.setLanguageId(c.language);
         EXPECT_FALSE(model.setData(model.index(0, c.column), QString::fromUtf8(c.typed)));
         ASSERT_EQ(refused.count(), 1);
@@ -309,7 +281,6 @@ TEST_F(GridEditorModelTest, RefusedValuesKeepTheCellAndSayWhy)
     EXPECT_EQ(refused.at(0).at(0).value<QModelIndex>(), model.index(0, 2));
     EXPECT_EQ(refused.at(0).at(1).toString(), QStringLiteral("วงเงินต้องไม่เกิน 10,000"));
     EXPECT_EQ(model.text(0, 2), QStringLiteral("5,000.00"));
-    EXPECT_EQ(model.mark(0), QString());
     EXPECT_EQ(byUser.count(), 0);
 
     EXPECT_TRUE(model.setData(model.index(0, 2), QStringLiteral("9999.999")));
