@@ -279,6 +279,54 @@ CREATE TABLE QD8TACAllocate (
     PRIMARY KEY (TACLTACCCode, TACLLn)
 );
 
+-- Accounting years and their periods (calendar months: the voucher lines
+-- carry the year and month of the voucher date). A voucher dated in a closed
+-- period, or in a closed year, is refused by the voucher panel.
+CREATE TABLE QD8TACYear (
+    TACYID INTEGER NOT NULL,
+    TACYName VARCHAR(100) COLLATE THAI,
+    TACYName2 VARCHAR(100) COLLATE THAI,
+    TACYStartDate DATE,
+    TACYEndDate DATE,
+    TACYClosed INTEGER DEFAULT 0,
+    PRIMARY KEY (TACYID)
+);
+
+CREATE TABLE QD8TACPeriod (
+    TACPTACYID INTEGER NOT NULL,
+    TACPID INTEGER NOT NULL,
+    TACPStartDate DATE,
+    TACPEndDate DATE,
+    TACPClosed INTEGER DEFAULT 0,
+    PRIMARY KEY (TACPTACYID, TACPID)
+);
+
+-- Automatic posting formats. A format group (the voucher panel's
+-- FormatGroupAlias) is an ordered list of lines; each names a map key (or,
+-- when the key is empty, an account), a side ('D' debit, 'C' credit) and an
+-- amount formula over the twenty input amounts X1..X20, e.g. "X1+X3-X2".
+-- Descriptions may be empty (the panel's own description is used).
+CREATE TABLE QD8TGLFormatGroup (
+    TGFGAlias VARCHAR(50) NOT NULL,
+    TGFGName VARCHAR(200) COLLATE THAI,
+    TGFGName2 VARCHAR(200) COLLATE THAI,
+    TGFGTGLBCode VARCHAR(20),
+    TGFGFlag1 INTEGER DEFAULT 1,
+    PRIMARY KEY (TGFGAlias)
+);
+
+CREATE TABLE QD8TGLFormat (
+    TGFMTGFGAlias VARCHAR(50) NOT NULL,
+    TGFMLn INTEGER NOT NULL,
+    TGFMTACMAlias VARCHAR(50),
+    TGFMTACCCode VARCHAR(20),
+    TGFMSide VARCHAR(1) NOT NULL,
+    TGFMFormula VARCHAR(200) NOT NULL,
+    TGFMDescription VARCHAR(500) COLLATE THAI,
+    TGFMDescription2 VARCHAR(500) COLLATE THAI,
+    PRIMARY KEY (TGFMTGFGAlias, TGFMLn)
+);
+
 -- Voucher headers. TGLTFlag3 is the time of the last save.
 CREATE TABLE QD8TGLTrans (
     TGLTNo VARCHAR(30) NOT NULL,
