@@ -65,7 +65,7 @@ void GLControl::FillData(const QString& iGLDocNo)
              "TGLTRevision", "TGLTIsAdjust", "TGLTCreateBy", "TGLTCreateDate"})
         d->loadedHeader.insert(QLatin1String(field), rs.field(QLatin1String(field)));
     d->oldNumber = GLDocNo();
-    d->loadedFlag3 = rs.text(QStringLiteral("TGLTFlag3"));
+    d->loadedFlag3 = rs.field(QStringLiteral("TGLTFlag3")).toDateTime();
     d->loadedRevision = int(toNumber(rs.field(QStringLiteral("TGLTRevision"))));
     d->stampKnown = true;
 
@@ -307,16 +307,16 @@ QString GLControl::UpdateGL8(const QDate& iGLDocDate, const QString& iRefNo, con
     SumColGrid1();
 
     // The whole save, on `c`. The stamp of the written header comes back in `stamp`.
-    auto write = [&](Connection& c, QString& stamp) {
+    auto write = [&](Connection& c, QDateTime& stamp) {
         // Another user's save or delete since this voucher was loaded refuses the save.
         // The no-op UPDATE takes the header's write lock first, so two saves of one voucher
         // queue instead of both passing the check.
         if (edit && d->stampKnown) {
             c.execute(Sql("UPDATE QD8TGLTrans SET TGLTRevision=TGLTRevision WHERE TGLTNo=") + quoted(d->oldNumber));
-            Recordset now;
-            now.open(Sql("SELECT TGLTFlag3, TGLTRevision FROM QD8TGLTrans WHERE TGLTNo=") + quoted(d->oldNumber), c);
-            if (now.eof() || now.text(QStringLiteral("TGLTFlag3")) != d->loadedFlag3
-                || int(toNumber(now.field(QStringLiteral("TGLTRevision")))) != d->loadedRevision)
+            Recordset current;
+            current.open(Sql("SELECT TGLTFlag3, TGLTRevision FROM QD8TGLTrans WHERE TGLTNo=") + quoted(d->oldNumber), c);
+            if (current.eof() || current.field(QStringLiteral("TGLTFlag3")).toDateTime() != d->loadedFlag3
+                || int(toNumber(current.field(QStringLiteral("TGLTRevision")))) != d->loadedRevision)
                 throw DbError(DbError::Kind::Conflict, QStringLiteral("voucher changed since it was loaded"))
                     .explain(QStringLiteral("ใบสำคัญ %1 ถูกแก้ไขหรือลบโดยผู้ใช้อื่นหลังจากเปิดขึ้นมา กรุณาเปิดใหม่ก่อนแก้ไข").arg(d->oldNumber),
                         QStringLiteral("Voucher %1 was changed or deleted by another user since it was opened; open it again before editing")
@@ -335,6 +335,10 @@ QString GLControl::UpdateGL8(const QDate& iGLDocDate, const QString& iRefNo, con
                     c.execute(Sql("DELETE FROM QD8TGLTrans WHERE TGLTNo=") + quoted(which));
             }
         }
+        // A save's stamp always differs from the one it replaces: engines keep whole seconds,
+        // so a save within the same second as the last one is stamped a second later.
+        const QDateTime second = now.addMSecs(-now.time().msec());
+        const QDateTime written = d->loadedFlag3.isValid() && second <= d->loadedFlag3 ? d->loadedFlag3.addSecs(1) : second;
         Recordset header;
         header.open(Sql("SELECT * FROM QD8TGLTrans WHERE TGLTNo=") + quoted(number), c, Recordset::adOpenStatic, Recordset::adLockOptimistic);
         if (header.eof())
@@ -358,7 +362,7 @@ QString GLControl::UpdateGL8(const QDate& iGLDocDate, const QString& iRefNo, con
             {"TGLTEditBy", UserLoginName()}, {"TGLTRevision", iRevision}, {"TGLTEditDate", now},
             {"TGLTAmount", QVariant::fromValue(roundToCents(d->sumDebit))}, {"TGLTBalanceFlag", iBalanceFlag},
             {"TGLTApproveStatus", 0}, {"TGLTCancelStatus", 0}, {"TGLTConfirmStatus", d->active->isChecked() ? 1 : 0},
-            {"TGLTFlag3", now}};
+            {"TGLTFlag3", written}};
         for (const auto& [field, value] : stampFields)
             header.setField(QLatin1String(field), value);
         header.update();
@@ -400,12 +404,12 @@ QString GLControl::UpdateGL8(const QDate& iGLDocDate, const QString& iRefNo, con
             line.update();
         }
         // The stamp as the database gives it back, for the next save's check.
-        Recordset written;
-        written.open(Sql("SELECT TGLTFlag3 FROM QD8TGLTrans WHERE TGLTNo=") + quoted(number), c);
-        stamp = written.eof() ? QString() : written.text(QStringLiteral("TGLTFlag3"));
+        Recordset back;
+        back.open(Sql("SELECT TGLTFlag3 FROM QD8TGLTrans WHERE TGLTNo=") + quoted(number), c);
+        stamp = back.eof() ? QDateTime() : back.field(QStringLiteral("TGLTFlag3")).toDateTime();
     };
 
-    QString stamp;
+    QDateTime stamp;
     for (int attempt = 1;; ++attempt) {
         try {
             if (d->saveConnection) {

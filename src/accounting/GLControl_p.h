@@ -3,6 +3,7 @@
 #include "accounting/GLControl.h"
 #include "database/DataObject.h"
 
+#include <QDateTime>
 #include <QHash>
 #include <QPointer>
 #include <QVariant>
@@ -113,7 +114,7 @@ public:
     // The number the voucher was last saved (or loaded) under, and its header stamp then.
     QString oldNumber;
     bool stampKnown = false;
-    QString loadedFlag3;
+    QDateTime loadedFlag3;
     QVariantHash loadedHeader;  // the header fields the panel does not show, as loaded
     int loadedRevision = 0;
     Connection* saveConnection = nullptr;
