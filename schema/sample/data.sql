@@ -650,10 +650,11 @@ WITH RECURSIVE months(m) AS (SELECT 1 UNION ALL SELECT m + 1 FROM months WHERE m
 INSERT INTO QD8TACPeriod (TACPTACYID, TACPID, TACPClosed)
 SELECT TACYID, m, TACYClosed FROM QD8TACYear, months;
 
--- Vouchers: 360 of twelve everyday kinds, spread over the last 330 days, numbered
+-- Vouchers: 360 of twelve everyday kinds, spread over the last 400 days, numbered
 -- the way the voucher panel numbers them (book, year and month of the date, four
 -- digits), with the running numbers set after them. Each balances; the VAT kinds
--- split their total into 7% VAT and the amount before it.
+-- split their total into 7% VAT and the amount before it. The newest twenty are not
+-- confirmed yet; two in three of the older ones are approved; a few are cancelled.
 WITH RECURSIVE series(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM series WHERE i < 360),
 kinds(kind, book, descr) AS (VALUES
     (0, 'JV', 'ค่าเสื่อมราคาเครื่องใช้สำนักงานประจำเดือน'),
@@ -669,14 +670,15 @@ kinds(kind, book, descr) AS (VALUES
     (10, 'PV', 'จ่ายค่าน้ำมันรถส่งของ'),
     (11, 'JV', 'โอนเงินระหว่างบัญชีธนาคาร')),
 offsets(i, book, descr, back) AS (
-    SELECT i, book, descr, (360 - i) * 11 / 12 FROM series JOIN kinds ON kind = i % 12),
+    SELECT i, book, descr, (360 - i) * 10 / 9 FROM series JOIN kinds ON kind = i % 12),
 dated(i, book, descr, d) AS (SELECT i, book, descr, CURRENT_DATE - back FROM offsets),
 numbered(i, book, descr, d, seq) AS (
     SELECT i, book, descr, d, '000' || ROW_NUMBER() OVER (PARTITION BY book, to_char(d, 'YYMM') ORDER BY d, i) FROM dated)
 INSERT INTO QD8TGLTrans (TGLTNo, TGLTDate, TGLTTGLBCode, TGLTMode, TGLTTBraCode, TGLTDescription, TGLTInputSource, TGLTCreateBy, TGLTCreateDate, TGLTEditBy, TGLTEditDate, TGLTRevision, TGLTAmount, TGLTBalanceFlag, TGLTApproveStatus, TGLTCancelStatus, TGLTConfirmStatus, TGLTFlag3)
 SELECT book || to_char(d, 'YYMM') || substr(seq, length(seq) - 3), d, book, 1, CASE WHEN i % 5 = 0 THEN 'CNX' ELSE 'HQ' END, descr, 'JV',
        CASE WHEN i % 3 = 0 THEN 'JOHN' ELSE 'SOMCHAI' END, d, CASE WHEN i % 3 = 0 THEN 'JOHN' ELSE 'SOMCHAI' END, d, 0,
-       500 + (i * 7919) % 98000 + (i * 37) % 100 / 100.0, 0, 0, 0, CASE WHEN i > 340 THEN 0 ELSE 1 END, d
+       500 + (i * 7919) % 98000 + (i * 37) % 100 / 100.0, 0, CASE WHEN i <= 300 AND i % 3 <> 1 THEN 1 ELSE 0 END,
+       CASE WHEN i % 47 = 0 THEN 1 ELSE 0 END, CASE WHEN i > 340 THEN 0 ELSE 1 END, d
 FROM numbered;
 WITH lines(descr, ln, account, side, part) AS (VALUES
     ('ค่าเสื่อมราคาเครื่องใช้สำนักงานประจำเดือน', 1, '5340-03', 'D', 'T'), ('ค่าเสื่อมราคาเครื่องใช้สำนักงานประจำเดือน', 2, '1214-09', 'C', 'T'),
