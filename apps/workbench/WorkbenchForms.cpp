@@ -2,6 +2,7 @@
 
 #include "DocumentForm.h"
 #include "TableListForm.h"
+#include "VoucherForm.h"
 #include "documents/DucumentList.h"
 #include "documents/MasterList.h"
 #include "editors/QuickGrid.h"
@@ -146,8 +147,9 @@ void registerWorkbenchForms()
         FormRegistry::registerForm(QString::fromLatin1(alias), [](QWidget* parent) { return new DucumentList(parent); });
     for (const char* alias : {"ARCUSTOMER", "ICPRODUCT", "APVENDOR"})
         FormRegistry::registerForm(QString::fromLatin1(alias), [](QWidget* parent) { return new MasterList(parent); });
-    // The document and master forms the lists open.
+    // The document and master forms the lists open; the general journal's is the voucher form.
     registerDocumentForms();
+    FormRegistry::registerForm(QStringLiteral("DOCGL"), [](QWidget* parent) { return new VoucherForm(parent); });
 }
 
 } // namespace qd8

@@ -1,12 +1,17 @@
 #include "support/SampleCompany.h"
 #include "support/ScriptedServices.h"
 
+#include "VoucherForm.h"
 #include "WorkbenchForms.h"
+#include "accounting/GLControl.h"
+#include "widgets/DateEdit.h"
+#include "widgets/GridEditor.h"
 #include "WorkbenchSession.h"
 #include "WorkbenchWindow.h"
 #include "foundation/Connection.h"
 #include "foundation/Recordset.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
@@ -479,6 +484,31 @@ TEST_P(DocumentFormTest, SwitchingTheLanguageReshowsAViewedRowAndKeepsAnEdit)
                   window->tabs()->tabText(window->tabs()->indexOf(viewed))}),
         QStringList({"15/01/2026", "View", "Purchase Request - PRLANG1"}));
     EXPECT_EQ(box(edited, "TPRDDescription")->text(), "ยังไม่ได้บันทึก");
+}
+
+// The general journal's voucher form: an unbalanced voucher is refused, F9 balances it, the
+// save numbers it in its book and month, and the list reopens it for editing.
+TEST_P(DocumentFormTest, TheVoucherFormBalancesSavesAndReopensAVoucher)
+{
+    logIn("SOMCHAI");
+    auto* form = qobject_cast<VoucherForm*>(openAsList({"DOCGL", "QD8TGLTrans", "TGLTNo", "JV", "", "", ""}, "ADD", ""));
+    ASSERT_TRUE(form);
+    GLControl* gl = form->panel();
+    gl->FillLine("5310-01", true, *Currency::parse(u"1500.25"));
+    gl->FillLine("1112-01", false, *Currency::parse(u"1500"));
+    QTest::keyClick(form, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(criticals(), QStringList{"ยอดบัญชีเดบิต และเครดิตไม่เท่ากัน หรือ รหัสบัญชีไม่ถูกต้อง กรุณาตรวจสอบรายการ"});
+    gl->grid()->setRow(2), gl->grid()->setCol(GLControl::ColCredit);
+    QTest::keyClick(gl->grid()->findChild<QAbstractItemView*>(), Qt::Key_F9);
+    ASSERT_TRUE(form->save());
+    const QString number = form->DocNo();
+    EXPECT_TRUE(number.startsWith("JV" + QDate::currentDate().toString("yyMM")) && number.size() == 10) << number.toStdString();
+    EXPECT_EQ(read(Sql("SELECT TGLTAmount FROM QD8TGLTrans WHERE TGLTNo=") + quoted(number), "TGLTAmount"), "1500.25");
+    auto* again = qobject_cast<VoucherForm*>(openAsList({"DOCGL", "QD8TGLTrans", "TGLTNo", "JV", "", "", ""}, "EDIT", number));
+    ASSERT_TRUE(again);
+    EXPECT_EQ(again->panel()->GETGLList().size(), 2);
+    EXPECT_EQ(again->panel()->GETSumCredit(), *Currency::parse(u"1500.25"));
+    EXPECT_EQ(again->dateBox()->date(), QDate::currentDate());
 }
 
 QD8_ON_BOTH_ENGINES(DocumentFormTest);
