@@ -257,9 +257,9 @@ void GLControl::Private::retranslate()
     q->SumColGrid1();
 }
 
-QString GLControl::Private::quotedTextProblem(const QString& number, const QString& headerDescription) const
+QString GLControl::Private::quotedTextProblem(QStringList texts) const
 {
-    QStringList texts = {number, book->text(), headerDescription};
+    texts << book->text() << docNo->text();
     for (int row = 1; row <= grid->Rows(); ++row)
         for (int col = 1; col <= GLColumnCount; ++col)
             if (!GLColumns[col - 1].amount)
@@ -711,36 +711,46 @@ void GLControl::SumColGrid1()
 {
     if (d->holdTotals)
         return;
+    // A row marked deleted counts as zero; marking a row changes its cells, so it is
+    // read again like any changed row.
+    const auto refresh = [this](int r) {
+        const bool live = d->isLive(r + 1);
+        d->debits[r] = live ? d->amount(r + 1, ColDebit) : Currency();
+        d->credits[r] = live ? d->amount(r + 1, ColCredit) : Currency();
+    };
     const int rows = d->grid->Rows();
     if (!d->cacheValid || d->debits.size() != rows) {
         d->debits.resize(rows);
         d->credits.resize(rows);
-        for (int row = 1; row <= rows; ++row) {
-            d->debits[row - 1] = d->amount(row, ColDebit);
-            d->credits[row - 1] = d->amount(row, ColCredit);
-        }
+        for (int r = 0; r < rows; ++r)
+            refresh(r);
         d->cacheValid = true;
     } else {
-        for (int r : std::as_const(d->dirtyRows)) {
-            d->debits[r] = d->amount(r + 1, ColDebit);
-            d->credits[r] = d->amount(r + 1, ColCredit);
-        }
+        for (int r : std::as_const(d->dirtyRows))
+            refresh(r);
     }
     d->dirtyRows.clear();
     Currency debit, credit;
-    const GridEditorModel* model = d->grid->model();
-    for (int r = 0; r < rows; ++r) {
-        if (model->rowEdit(r).deleted)
-            continue;
-        debit += d->debits[r];
-        credit += d->credits[r];
-    }
+    for (const Currency& amount : std::as_const(d->debits))
+        debit += amount;
+    for (const Currency& amount : std::as_const(d->credits))
+        credit += amount;
     d->sumDebit = debit;
     d->sumCredit = credit;
-    const GridColumn& money = d->grid->column(ColDebit);
-    d->sumDebitLabel->setText(bilingual("เดบิต %1", "Debit %1").arg(money.displayText(debit.toString(), DateEra::Gregorian)));
-    d->sumCreditLabel->setText(bilingual("เครดิต %1", "Credit %1").arg(money.displayText(credit.toString(), DateEra::Gregorian)));
+    // The totals line is redrawn once the keystroke is handled, not at every change.
+    if (!d->totalsShowPending) {
+        d->totalsShowPending = true;
+        QMetaObject::invokeMethod(this, [this] { d->showTotals(); }, Qt::QueuedConnection);
+    }
     Q_EMIT ValueChange(debit, credit);
+}
+
+void GLControl::Private::showTotals()
+{
+    totalsShowPending = false;
+    const GridColumn& money = grid->column(ColDebit);
+    sumDebitLabel->setText(q->bilingual("เดบิต %1", "Debit %1").arg(money.displayText(sumDebit.toString(), DateEra::Gregorian)));
+    sumCreditLabel->setText(q->bilingual("เครดิต %1", "Credit %1").arg(money.displayText(sumCredit.toString(), DateEra::Gregorian)));
 }
 
 void GLControl::SetSaveZero(int iValue) { d->saveZero->setChecked(iValue != 0); }
@@ -800,7 +810,7 @@ QString GLControl::isReadyToSave()
     if (GLMethod() == 0)
         return {};
     const QString closed = d->closedPeriodProblem(d->docDate);
-    return closed.isEmpty() ? d->quotedTextProblem(GLDocNo(), Description()) : closed;
+    return closed.isEmpty() ? d->quotedTextProblem({Description()}) : closed;
 }
 
 bool GLControl::isGLZero() { return isGLZero2(true); }

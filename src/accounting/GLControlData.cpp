@@ -294,7 +294,7 @@ QString GLControl::UpdateGL8(const QDate& iGLDocDate, const QString& iRefNo, con
     // Checked before anything is written: a statement would be refused halfway otherwise.
     QString problem = d->closedPeriodProblem(iGLDocDate);
     if (problem.isEmpty())
-        problem = d->quotedTextProblem(GLDocNo(), headerText + iRefNo + iRefNo2 + iProjectCode + BranchCode + iPayTo + d->inputSource);
+        problem = d->quotedTextProblem({headerText, iRefNo, iRefNo2, iProjectCode, BranchCode, iPayTo, d->inputSource});
     if (!problem.isEmpty()) {
         Services::messages().critical(title, problem);
         return {};

@@ -63,12 +63,14 @@ public:
     // F9: the amount that balances the voucher into the current amount cell.
     void balanceIntoCell();
     void showBalance();
+    void showTotals();
     // Which of the words the first live line's "name===description" (without "-") holds:
     // its index, -1 when no line holds one.
     int firstMention(const QStringList& words) const;
     void retranslate();
-    // Every text that goes into a statement of the save; the first one holding a quote.
-    QString quotedTextProblem(const QString& number, const QString& description) const;
+    // The message for the first text holding a quote, among `texts`, the book, the number
+    // and every text cell; "" when none does.
+    QString quotedTextProblem(QStringList texts) const;
     // The closed year or period the date falls in, as a message; "" when it is open.
     QString closedPeriodProblem(const QDate& date) const;
 
@@ -127,6 +129,7 @@ public:
     Currency sumDebit;
     Currency sumCredit;
     bool holdTotals = false;
+    bool totalsShowPending = false;
     mutable QHash<QString, Currency> balances;
 };
 
