@@ -7,6 +7,7 @@
 #include "foundation/Connection.h"
 #include "foundation/Recordset.h"
 #include "foundation/SqlTrace.h"
+#include "foundation/TransactionGuard.h"
 #include "widgets/GridEditor.h"
 #include "widgets/GridEditorModel.h"
 
@@ -308,6 +309,27 @@ TEST_P(GLControlTest, ASecondUserCannotOverwriteUnseen)
         EXPECT_TRUE(scriptedMessages().shown[0].text.contains("ผู้ใช้อื่น"));
         EXPECT_EQ(count("SELECT COUNT(*) FROM QD8TGLTransSub WHERE TGTSDescription='A changed'"), 0);
         EXPECT_EQ(save(*b), deleted ? "" : number) << "the one who saved last may save again";
+    }
+}
+
+TEST_P(GLControlTest, OnTheHostsConnectionTheVoucherCommitsWithTheDocument)
+{
+    for (const bool commit : {false, true}) {
+        auto p = panel();
+        twoLines(*p);
+        {
+            Connection c;
+            c.open(db->connectionString());
+            TransactionGuard transaction(c);
+            c.execute(Sql("INSERT INTO QD8TAR (TARNCode) VALUES ('C1')"));
+            p->setSaveConnection(&c);
+            EXPECT_EQ(save(*p), "JV26110001");
+            if (commit)
+                transaction.commit();
+        }
+        EXPECT_EQ(count("SELECT COUNT(*) FROM QD8TAR"), commit ? 1 : 0);
+        EXPECT_EQ(count("SELECT COUNT(*) FROM QD8TGLTransSub"), commit ? 2 : 0);
+        EXPECT_EQ(count("SELECT COUNT(*) FROM QD8TRunningNumber"), commit ? 1 : 0);
     }
 }
 
