@@ -142,7 +142,7 @@ void registerWorkbenchForms()
             QStringLiteral("รหัส,ชื่อเข้าระบบ,ชื่อผู้ใช้,พนักงาน"), QStringLiteral("ID,Login,Name,Employee"), QStringLiteral("QD8TUser"),
             QStringLiteral("TUsrFlag1=1"), QStringLiteral("TUsrID"), QStringLiteral("TUsrLoginName,TUsrName,TUsrName2"), false});
     // The lists of the document and master-data commands, by their definitions.
-    for (const char* alias : {"PURPR", "PUPO", "SOORDER", "ARINVOICE", "ICISSUEUSE"})
+    for (const char* alias : {"GLJV", "PURPR", "PUPO", "SOORDER", "ARINVOICE", "ICISSUEUSE"})
         FormRegistry::registerForm(QString::fromLatin1(alias), [](QWidget* parent) { return new DucumentList(parent); });
     for (const char* alias : {"ARCUSTOMER", "ICPRODUCT", "APVENDOR"})
         FormRegistry::registerForm(QString::fromLatin1(alias), [](QWidget* parent) { return new MasterList(parent); });

@@ -330,9 +330,8 @@ INSERT INTO QD8TUserEmpType (TUEtTUsrID, TUEtLevel, TUEtTEmTCode) VALUES (2, 0, 
 INSERT INTO QD8TUserSetting (TUsSTUsrID, TUsSAlias, TUsSValue) VALUES (1, 'ApproveNoteFilter', '1');
 INSERT INTO QD8TUserSetting (TUsSTUsrID, TUsSAlias, TUsSValue) VALUES (1, 'ApproveNoteValue', 'ฝ่ายบัญชี');
 
--- Company option values and the voucher numbers already taken this month.
+-- Company option values (the voucher numbers taken are set after the sample vouchers).
 INSERT INTO QD8TOptionValue (TOpVScope, TOpVScopeKey, TOpVTOptAlias, TOpVValue, TOpVNumber, TOpVEditBy, TOpVEditDate) VALUES ('COMPANY', '', 'ARCREDITBALANCEIGNORECHEQUE', '0', 0, 'ADMIN', '2026-01-02 09:00:00');
-INSERT INTO QD8TRunningNumber (TRunKey, TRunSubKey, TRunLastNo, TRunEditDate) VALUES ('DAILYRECORDCALL', 'JV2611', 12, '2026-11-20 17:10:00');
 
 -- Rights on the quick-form commands: everybody may maintain the master tables.
 INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (0, 'DIVISION', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1);
@@ -427,13 +426,285 @@ INSERT INTO QD8TUnit (TUntCode, TUntName, TUntName2, TUntRatio, TUntFraction, TU
 INSERT INTO QD8TUnit (TUntCode, TUntName, TUntName2, TUntRatio, TUntFraction, TUntSort, TUntFlag1) VALUES ('L', 'ลิตร', 'Litre', 1, 1, 6, 1);
 INSERT INTO QD8TUnit (TUntCode, TUntName, TUntName2, TUntRatio, TUntFraction, TUntSort, TUntFlag1) VALUES ('REAM', 'รีม', 'Ream', 500, 0, 7, 0);
 
--- Journal books: general, receipts, payments and sales, and the purchase book no
--- longer in use.
+-- Journal books: general, receipts, payments, sales and purchases (PUV), and the
+-- old purchase book no longer in use.
 INSERT INTO QD8TGLBook (TGLBCode, TGLBName, TGLBName2, TGLBSort, TGLBFlag1) VALUES ('JV', 'สมุดรายวันทั่วไป', 'General Journal', 1, 1);
 INSERT INTO QD8TGLBook (TGLBCode, TGLBName, TGLBName2, TGLBSort, TGLBFlag1) VALUES ('RV', 'สมุดรายวันรับเงิน', 'Cash Receipts Journal', 2, 1);
 INSERT INTO QD8TGLBook (TGLBCode, TGLBName, TGLBName2, TGLBSort, TGLBFlag1) VALUES ('PV', 'สมุดรายวันจ่ายเงิน', 'Cash Payments Journal', 3, 1);
 INSERT INTO QD8TGLBook (TGLBCode, TGLBName, TGLBName2, TGLBSort, TGLBFlag1) VALUES ('SV', 'สมุดรายวันขาย', 'Sales Journal', 4, 1);
 INSERT INTO QD8TGLBook (TGLBCode, TGLBName, TGLBName2, TGLBSort, TGLBFlag1) VALUES ('PU', 'สมุดรายวันซื้อ', 'Purchases Journal', 5, 0);
+INSERT INTO QD8TGLBook (TGLBCode, TGLBName, TGLBName2, TGLBSort, TGLBFlag1) VALUES ('PUV', 'สมุดรายวันซื้อเชื่อ', 'Purchase Voucher Journal', 6, 1);
+
+-- Chart of accounts: a Thai SME chart in five classes (1 assets ... 5 expenses)
+-- plus suspense accounts. Headings are control accounts (TACCISControl 1) that
+-- nothing posts to; the office rent and electricity are spread over branches
+-- and departments by their allocation rows.
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1000-00', 'สินทรัพย์', 'Assets', 1, 1, 0, 1, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1100-00', 'สินทรัพย์หมุนเวียน', 'Current Assets', 2, 1, 0, 2, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1110-00', 'เงินสดและรายการเทียบเท่าเงินสด', 'Cash and Cash Equivalents', 3, 1, 0, 3, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1111-01', 'เงินสดในมือ', 'Cash on Hand', 4, 0, 0, 4, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1111-02', 'เงินสดย่อย', 'Petty Cash', 4, 0, 0, 5, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1112-01', 'เงินฝากกระแสรายวัน ธ.กรุงเทพ', 'Current Account - Bangkok Bank', 4, 0, 0, 6, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1112-02', 'เงินฝากออมทรัพย์ ธ.กสิกรไทย', 'Savings Account - Kasikornbank', 4, 0, 0, 7, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1112-03', 'เงินฝากออมทรัพย์ ธ.ไทยพาณิชย์', 'Savings Account - SCB', 4, 0, 0, 8, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1112-04', 'เงินฝากประจำ ธ.กรุงไทย', 'Fixed Deposit - Krungthai Bank', 4, 0, 0, 9, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1113-01', 'เช็ครับรอนำฝาก', 'Cheques on Hand', 4, 0, 0, 10, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1120-00', 'ลูกหนี้การค้าและลูกหนี้อื่น', 'Trade and Other Receivables', 3, 1, 0, 11, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1121-01', 'ลูกหนี้การค้า', 'Trade Receivables', 4, 0, 0, 12, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1121-02', 'ลูกหนี้การค้า - กิจการที่เกี่ยวข้อง', 'Trade Receivables - Related Parties', 4, 0, 0, 13, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1121-09', 'ค่าเผื่อหนี้สงสัยจะสูญ', 'Allowance for Doubtful Accounts', 4, 0, 0, 14, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1122-01', 'เช็ครับลงวันที่ล่วงหน้า', 'Post-dated Cheques Received', 4, 0, 0, 15, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1123-01', 'ลูกหนี้อื่น', 'Other Receivables', 4, 0, 0, 16, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1123-02', 'เงินทดรองจ่ายพนักงาน', 'Advances to Employees', 4, 0, 0, 17, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1123-03', 'ค่าใช้จ่ายจ่ายล่วงหน้า', 'Prepaid Expenses', 4, 0, 0, 18, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1123-04', 'รายได้ค้างรับ', 'Accrued Income', 4, 0, 0, 19, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1130-00', 'สินค้าคงเหลือ', 'Inventories', 3, 1, 0, 20, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1131-01', 'สินค้าสำเร็จรูป', 'Finished Goods', 4, 0, 0, 21, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1131-02', 'งานระหว่างทำ', 'Work in Process', 4, 0, 0, 22, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1131-03', 'วัตถุดิบ', 'Raw Materials', 4, 0, 0, 23, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1131-04', 'วัสดุสิ้นเปลือง', 'Supplies', 4, 0, 0, 24, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1131-05', 'สินค้าระหว่างทาง', 'Goods in Transit', 4, 0, 0, 25, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1140-00', 'สินทรัพย์หมุนเวียนอื่น', 'Other Current Assets', 3, 1, 0, 26, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1141-01', 'ภาษีซื้อ', 'Input VAT', 4, 0, 0, 27, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1141-02', 'ภาษีซื้อ - ยังไม่ถึงกำหนด', 'Input VAT - Not Yet Due', 4, 0, 0, 28, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1141-03', 'ภาษีถูกหัก ณ ที่จ่าย', 'Withholding Tax Deducted by Customers', 4, 0, 0, 29, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1141-04', 'เงินมัดจำจ่าย', 'Deposits Paid', 4, 0, 0, 30, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1200-00', 'สินทรัพย์ไม่หมุนเวียน', 'Non-current Assets', 2, 1, 0, 31, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1210-00', 'ที่ดิน อาคารและอุปกรณ์', 'Property, Plant and Equipment', 3, 1, 0, 32, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1211-01', 'ที่ดิน', 'Land', 4, 0, 0, 33, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1212-01', 'อาคาร', 'Buildings', 4, 0, 0, 34, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1212-09', 'ค่าเสื่อมราคาสะสม - อาคาร', 'Accumulated Depreciation - Buildings', 4, 0, 0, 35, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1213-01', 'เครื่องจักรและอุปกรณ์', 'Machinery and Equipment', 4, 0, 0, 36, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1213-09', 'ค่าเสื่อมราคาสะสม - เครื่องจักร', 'Accumulated Depreciation - Machinery', 4, 0, 0, 37, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1214-01', 'เครื่องตกแต่งและเครื่องใช้สำนักงาน', 'Furniture and Office Equipment', 4, 0, 0, 38, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1214-09', 'ค่าเสื่อมราคาสะสม - เครื่องใช้สำนักงาน', 'Accumulated Depreciation - Office Equipment', 4, 0, 0, 39, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1215-01', 'ยานพาหนะ', 'Vehicles', 4, 0, 0, 40, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1215-09', 'ค่าเสื่อมราคาสะสม - ยานพาหนะ', 'Accumulated Depreciation - Vehicles', 4, 0, 0, 41, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1216-01', 'คอมพิวเตอร์', 'Computers', 4, 0, 0, 42, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1216-09', 'ค่าเสื่อมราคาสะสม - คอมพิวเตอร์', 'Accumulated Depreciation - Computers', 4, 0, 0, 43, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1220-00', 'สินทรัพย์ไม่มีตัวตน', 'Intangible Assets', 3, 1, 0, 44, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1221-01', 'โปรแกรมคอมพิวเตอร์', 'Software', 4, 0, 0, 45, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1221-09', 'ค่าตัดจำหน่ายสะสม - โปรแกรม', 'Accumulated Amortisation - Software', 4, 0, 0, 46, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('1230-01', 'เงินประกันการเช่า', 'Rental Deposits', 3, 0, 0, 47, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2000-00', 'หนี้สิน', 'Liabilities', 1, 1, 0, 48, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2100-00', 'หนี้สินหมุนเวียน', 'Current Liabilities', 2, 1, 0, 49, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2110-01', 'เงินเบิกเกินบัญชีธนาคาร', 'Bank Overdrafts', 3, 0, 0, 50, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2110-02', 'เงินกู้ยืมระยะสั้นจากธนาคาร', 'Short-term Bank Loans', 3, 0, 0, 51, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2120-00', 'เจ้าหนี้การค้าและเจ้าหนี้อื่น', 'Trade and Other Payables', 3, 1, 0, 52, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2121-01', 'เจ้าหนี้การค้า', 'Trade Payables', 4, 0, 0, 53, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2121-02', 'เจ้าหนี้การค้า - กิจการที่เกี่ยวข้อง', 'Trade Payables - Related Parties', 4, 0, 0, 54, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2122-01', 'เช็คจ่ายลงวันที่ล่วงหน้า', 'Post-dated Cheques Issued', 4, 0, 0, 55, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2123-01', 'เจ้าหนี้อื่น', 'Other Payables', 4, 0, 0, 56, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2123-02', 'ค่าใช้จ่ายค้างจ่าย', 'Accrued Expenses', 4, 0, 0, 57, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2123-03', 'เงินเดือนค้างจ่าย', 'Accrued Salaries', 4, 0, 0, 58, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2123-04', 'เงินประกันสังคมค้างจ่าย', 'Social Security Payable', 4, 0, 0, 59, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2123-05', 'เงินรับล่วงหน้าจากลูกค้า', 'Advances from Customers', 4, 0, 0, 60, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2130-00', 'ภาษีค้างจ่าย', 'Taxes Payable', 3, 1, 0, 61, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2131-01', 'ภาษีขาย', 'Output VAT', 4, 0, 0, 62, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2131-02', 'ภาษีขาย - ยังไม่ถึงกำหนด', 'Output VAT - Not Yet Due', 4, 0, 0, 63, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2131-03', 'ภาษีมูลค่าเพิ่มค้างจ่าย', 'VAT Payable', 4, 0, 0, 64, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2132-01', 'ภาษีหัก ณ ที่จ่ายค้างจ่าย ภ.ง.ด.1', 'Withholding Tax Payable - PND 1', 4, 0, 0, 65, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2132-02', 'ภาษีหัก ณ ที่จ่ายค้างจ่าย ภ.ง.ด.3', 'Withholding Tax Payable - PND 3', 4, 0, 0, 66, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2132-03', 'ภาษีหัก ณ ที่จ่ายค้างจ่าย ภ.ง.ด.53', 'Withholding Tax Payable - PND 53', 4, 0, 0, 67, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2133-01', 'ภาษีเงินได้นิติบุคคลค้างจ่าย', 'Corporate Income Tax Payable', 4, 0, 0, 68, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2200-00', 'หนี้สินไม่หมุนเวียน', 'Non-current Liabilities', 2, 1, 0, 69, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2210-01', 'เงินกู้ยืมระยะยาวจากธนาคาร', 'Long-term Bank Loans', 3, 0, 0, 70, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2220-01', 'หนี้สินตามสัญญาเช่า', 'Lease Liabilities', 3, 0, 0, 71, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2230-01', 'ภาระผูกพันผลประโยชน์พนักงาน', 'Employee Benefit Obligations', 3, 0, 0, 72, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('2240-01', 'เงินกู้ยืมจากกรรมการ', 'Loans from Directors', 3, 0, 0, 73, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('3000-00', 'ส่วนของผู้ถือหุ้น', 'Shareholders'' Equity', 1, 1, 0, 74, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('3100-01', 'ทุนจดทะเบียนและชำระแล้ว', 'Issued and Paid-up Capital', 2, 0, 0, 75, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('3200-01', 'สำรองตามกฎหมาย', 'Legal Reserve', 2, 0, 0, 76, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('3300-01', 'กำไรสะสมยังไม่ได้จัดสรร', 'Unappropriated Retained Earnings', 2, 0, 0, 77, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('3400-01', 'กำไร (ขาดทุน) สุทธิงวดปัจจุบัน', 'Net Profit (Loss) for the Period', 2, 0, 0, 78, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('4000-00', 'รายได้', 'Revenue', 1, 1, 0, 79, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('4100-00', 'รายได้จากการขาย', 'Sales Revenue', 2, 1, 0, 80, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('4110-01', 'ขายสินค้า', 'Sales of Goods', 3, 0, 0, 81, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('4110-02', 'ขายสินค้า - ส่งออก', 'Export Sales', 3, 0, 0, 82, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('4110-03', 'รับคืนสินค้า', 'Sales Returns', 3, 0, 0, 83, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('4110-04', 'ส่วนลดจ่าย', 'Sales Discounts', 3, 0, 0, 84, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('4120-01', 'รายได้ค่าบริการ', 'Service Income', 3, 0, 0, 85, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('4120-02', 'รายได้ค่าติดตั้ง', 'Installation Income', 3, 0, 0, 86, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('4200-00', 'รายได้อื่น', 'Other Income', 2, 1, 0, 87, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('4210-01', 'ดอกเบี้ยรับ', 'Interest Income', 3, 0, 0, 88, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('4210-02', 'กำไรจากอัตราแลกเปลี่ยน', 'Foreign Exchange Gain', 3, 0, 0, 89, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('4210-03', 'กำไรจากการจำหน่ายสินทรัพย์', 'Gain on Disposal of Assets', 3, 0, 0, 90, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('4210-04', 'รายได้เบ็ดเตล็ด', 'Miscellaneous Income', 3, 0, 0, 91, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('4210-05', 'ส่วนลดรับ', 'Purchase Discounts Received', 3, 0, 0, 92, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5000-00', 'ค่าใช้จ่าย', 'Expenses', 1, 1, 0, 93, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5100-00', 'ต้นทุนขายและบริการ', 'Cost of Sales and Services', 2, 1, 0, 94, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5110-01', 'ต้นทุนขายสินค้า', 'Cost of Goods Sold', 3, 0, 0, 95, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5110-02', 'ซื้อสินค้า', 'Purchases', 3, 0, 0, 96, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5110-03', 'ส่งคืนสินค้า', 'Purchase Returns', 3, 0, 0, 97, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5110-04', 'ค่าขนส่งเข้า', 'Freight In', 3, 0, 0, 98, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5120-01', 'ต้นทุนบริการ', 'Cost of Services', 3, 0, 0, 99, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5120-02', 'ค่าแรงทางตรง', 'Direct Labour', 3, 0, 0, 100, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5120-03', 'ค่าใช้จ่ายการผลิต', 'Manufacturing Overhead', 3, 0, 0, 101, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5200-00', 'ค่าใช้จ่ายในการขาย', 'Selling Expenses', 2, 1, 0, 102, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5210-01', 'เงินเดือนพนักงานขาย', 'Sales Salaries', 3, 0, 0, 103, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5210-02', 'ค่านายหน้า', 'Commissions', 3, 0, 0, 104, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5210-03', 'ค่าโฆษณาและส่งเสริมการขาย', 'Advertising and Promotion', 3, 0, 0, 105, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5210-04', 'ค่าขนส่งออก', 'Freight Out', 3, 0, 0, 106, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5210-05', 'ค่ารับรอง', 'Entertainment', 3, 0, 0, 107, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5210-06', 'ค่าเดินทางฝ่ายขาย', 'Sales Travel', 3, 0, 0, 108, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5300-00', 'ค่าใช้จ่ายในการบริหาร', 'Administrative Expenses', 2, 1, 0, 109, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5310-01', 'เงินเดือนและค่าจ้าง', 'Salaries and Wages', 3, 0, 0, 110, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5310-02', 'ค่าล่วงเวลา', 'Overtime', 3, 0, 0, 111, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5310-03', 'เงินสมทบประกันสังคม', 'Social Security Contributions', 3, 0, 0, 112, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5310-04', 'สวัสดิการพนักงาน', 'Staff Welfare', 3, 0, 0, 113, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5310-05', 'ค่าฝึกอบรม', 'Training', 3, 0, 0, 114, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5320-01', 'ค่าเช่าสำนักงาน', 'Office Rent', 3, 0, 1, 115, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5320-02', 'ค่าไฟฟ้า', 'Electricity', 3, 0, 1, 116, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5320-03', 'ค่าน้ำประปา', 'Water', 3, 0, 0, 117, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5320-04', 'ค่าโทรศัพท์และอินเทอร์เน็ต', 'Telephone and Internet', 3, 0, 0, 118, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5320-05', 'ค่าไปรษณีย์', 'Postage', 3, 0, 0, 119, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5330-01', 'ค่าเครื่องเขียนและแบบพิมพ์', 'Stationery and Printing', 3, 0, 0, 120, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5330-02', 'ค่าซ่อมแซมและบำรุงรักษา', 'Repairs and Maintenance', 3, 0, 0, 121, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5330-03', 'ค่าน้ำมันเชื้อเพลิง', 'Fuel', 3, 0, 0, 122, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5330-04', 'ค่าเบี้ยประกันภัย', 'Insurance', 3, 0, 0, 123, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5330-05', 'ค่าธรรมเนียมธนาคาร', 'Bank Charges', 3, 0, 0, 124, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5330-06', 'ค่าสอบบัญชี', 'Audit Fees', 3, 0, 0, 125, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5330-07', 'ค่าที่ปรึกษา', 'Consulting Fees', 3, 0, 0, 126, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5330-08', 'ค่าภาษีอากรและค่าธรรมเนียม', 'Taxes and Fees', 3, 0, 0, 127, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5330-09', 'ค่าเดินทาง', 'Travel', 3, 0, 0, 128, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5330-10', 'ค่าบริจาค', 'Donations', 3, 0, 0, 129, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5330-11', 'ค่าใช้จ่ายเบ็ดเตล็ด', 'Miscellaneous Expenses', 3, 0, 0, 130, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5340-01', 'ค่าเสื่อมราคา - อาคาร', 'Depreciation - Buildings', 3, 0, 0, 131, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5340-02', 'ค่าเสื่อมราคา - เครื่องจักร', 'Depreciation - Machinery', 3, 0, 0, 132, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5340-03', 'ค่าเสื่อมราคา - เครื่องใช้สำนักงาน', 'Depreciation - Office Equipment', 3, 0, 0, 133, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5340-04', 'ค่าเสื่อมราคา - ยานพาหนะ', 'Depreciation - Vehicles', 3, 0, 0, 134, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5340-05', 'ค่าเสื่อมราคา - คอมพิวเตอร์', 'Depreciation - Computers', 3, 0, 0, 135, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5340-06', 'ค่าตัดจำหน่าย - โปรแกรม', 'Amortisation - Software', 3, 0, 0, 136, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5350-01', 'หนี้สงสัยจะสูญ', 'Doubtful Debts', 3, 0, 0, 137, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5350-02', 'ขาดทุนจากอัตราแลกเปลี่ยน', 'Foreign Exchange Loss', 3, 0, 0, 138, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5350-03', 'ขาดทุนจากการจำหน่ายสินทรัพย์', 'Loss on Disposal of Assets', 3, 0, 0, 139, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5350-04', 'ผลต่างจากการปัดเศษ', 'Rounding Differences', 3, 0, 0, 140, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5400-00', 'ค่าใช้จ่ายทางการเงินและภาษี', 'Finance Costs and Tax', 2, 1, 0, 141, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5410-01', 'ดอกเบี้ยจ่าย', 'Interest Expense', 3, 0, 0, 142, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5410-02', 'ดอกเบี้ยตามสัญญาเช่า', 'Lease Interest', 3, 0, 0, 143, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('5420-01', 'ภาษีเงินได้นิติบุคคล', 'Corporate Income Tax', 3, 0, 0, 144, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('9000-00', 'บัญชีพัก', 'Suspense Accounts', 1, 1, 0, 145, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('9100-01', 'บัญชีพักรอตรวจสอบ', 'Suspense - Under Review', 2, 0, 0, 146, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('9100-02', 'บัญชีพักเงินโอน', 'Suspense - Transfers', 2, 0, 0, 147, 1);
+INSERT INTO QD8TACChart (TACCCode, TACCName, TACCName2, TACCLevel, TACCISControl, TACCAutoAllocate, TACCSort, TACCFlag1) VALUES ('9200-01', 'บัญชีปิดงวด (เลิกใช้)', 'Closing Account (Obsolete)', 2, 0, 0, 148, 0);
+
+-- Account map: the keys automatic posting names instead of accounts. UNUSED has
+-- no account yet (a posting to it adds nothing).
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('CASH', 'เงินสด', 'Cash', '1111-01', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('BANK', 'เงินฝากธนาคาร', 'Bank', '1112-01', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('AR', 'ลูกหนี้การค้า', 'Trade receivables', '1121-01', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('AP', 'เจ้าหนี้การค้า', 'Trade payables', '2121-01', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('SALES', 'ขายสินค้า', 'Sales', '4110-01', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('SERVICE', 'รายได้ค่าบริการ', 'Service income', '4120-01', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('SALESDISC', 'ส่วนลดจ่าย', 'Sales discounts', '4110-04', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('OUTVAT', 'ภาษีขาย', 'Output VAT', '2131-01', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('INVAT', 'ภาษีซื้อ', 'Input VAT', '1141-01', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('WHTREC', 'ภาษีถูกหัก ณ ที่จ่าย', 'Withholding tax deducted', '1141-03', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('WHTPAY', 'ภาษีหัก ณ ที่จ่ายค้างจ่าย', 'Withholding tax payable', '2132-03', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('PURCHASE', 'ซื้อสินค้า', 'Purchases', '5110-02', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('INVENTORY', 'สินค้าสำเร็จรูป', 'Finished goods', '1131-01', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('COGS', 'ต้นทุนขายสินค้า', 'Cost of goods sold', '5110-01', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('BANKCHARGE', 'ค่าธรรมเนียมธนาคาร', 'Bank charges', '5330-05', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('ROUNDING', 'ผลต่างจากการปัดเศษ', 'Rounding differences', '5350-04', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('RENT', 'ค่าเช่าสำนักงาน', 'Office rent', '5320-01', 1);
+INSERT INTO QD8TAccountMap (TACMAlias, TACMName, TACMName2, TACMTACCCode, TACMFlag1) VALUES ('UNUSED', 'คีย์ที่ยังไม่ได้ผูกบัญชี', 'Key without an account', NULL, 1);
+
+-- Allocation: rent half to accounting, 30% to sales, 20% to the Chiang Mai
+-- warehouse; electricity in thirds (the last line takes the satang left over).
+INSERT INTO QD8TACAllocate (TACLTACCCode, TACLLn, TACLToTACCCode, TACLShareRatioText, TACLTBraCode, TACLTDivCode, TACLTDepCode, TACLTSecCode) VALUES ('5320-01', 1, '5320-01', '50%', 'HQ', 'D01', 'P11', NULL);
+INSERT INTO QD8TACAllocate (TACLTACCCode, TACLLn, TACLToTACCCode, TACLShareRatioText, TACLTBraCode, TACLTDivCode, TACLTDepCode, TACLTSecCode) VALUES ('5320-01', 2, '5320-01', '30%', 'HQ', 'D02', 'P21', NULL);
+INSERT INTO QD8TACAllocate (TACLTACCCode, TACLLn, TACLToTACCCode, TACLShareRatioText, TACLTBraCode, TACLTDivCode, TACLTDepCode, TACLTSecCode) VALUES ('5320-01', 3, '5320-01', '20%', 'CNX', 'D03', 'P31', 'S311');
+INSERT INTO QD8TACAllocate (TACLTACCCode, TACLLn, TACLToTACCCode, TACLShareRatioText, TACLTBraCode, TACLTDivCode, TACLTDepCode, TACLTSecCode) VALUES ('5320-02', 1, '5320-02', '1/3', 'HQ', 'D01', 'P11', NULL);
+INSERT INTO QD8TACAllocate (TACLTACCCode, TACLLn, TACLToTACCCode, TACLShareRatioText, TACLTBraCode, TACLTDivCode, TACLTDepCode, TACLTSecCode) VALUES ('5320-02', 2, '5320-02', '1/3', 'HQ', 'D02', 'P21', NULL);
+INSERT INTO QD8TACAllocate (TACLTACCCode, TACLLn, TACLToTACCCode, TACLShareRatioText, TACLTBraCode, TACLTDivCode, TACLTDepCode, TACLTSecCode) VALUES ('5320-02', 3, '5320-02', '1/3', 'CNX', 'D03', 'P31', NULL);
+
+-- Automatic posting formats. An invoice: X1 amount before VAT, X2 VAT, X3 the
+-- service part of X1. A receipt or payment: X1 amount settled, X2 withholding tax,
+-- X3 bank fee.
+INSERT INTO QD8TGLFormatGroup (TGFGAlias, TGFGName, TGFGName2, TGFGTGLBCode, TGFGFlag1) VALUES ('ARINVOICE', 'ขายเชื่อ (ใบแจ้งหนี้)', 'Credit sale (invoice)', 'SV', 1);
+INSERT INTO QD8TGLFormatGroup (TGFGAlias, TGFGName, TGFGName2, TGFGTGLBCode, TGFGFlag1) VALUES ('ARRECEIPT', 'รับชำระหนี้', 'Customer receipt', 'RV', 1);
+INSERT INTO QD8TGLFormatGroup (TGFGAlias, TGFGName, TGFGName2, TGFGTGLBCode, TGFGFlag1) VALUES ('APINVOICE', 'ซื้อเชื่อ', 'Credit purchase', 'PUV', 1);
+INSERT INTO QD8TGLFormatGroup (TGFGAlias, TGFGName, TGFGName2, TGFGTGLBCode, TGFGFlag1) VALUES ('APPAYMENT', 'จ่ายชำระหนี้', 'Supplier payment', 'PV', 1);
+INSERT INTO QD8TGLFormat (TGFMTGFGAlias, TGFMLn, TGFMTACMAlias, TGFMTACCCode, TGFMSide, TGFMFormula, TGFMDescription, TGFMDescription2) VALUES ('ARINVOICE', 1, 'AR', NULL, 'D', 'X1+X2', 'ลูกหนี้ตามใบแจ้งหนี้', 'Receivable per invoice');
+INSERT INTO QD8TGLFormat (TGFMTGFGAlias, TGFMLn, TGFMTACMAlias, TGFMTACCCode, TGFMSide, TGFMFormula, TGFMDescription, TGFMDescription2) VALUES ('ARINVOICE', 2, 'SALES', NULL, 'C', 'X1-X3', 'ขายสินค้า', 'Sales');
+INSERT INTO QD8TGLFormat (TGFMTGFGAlias, TGFMLn, TGFMTACMAlias, TGFMTACCCode, TGFMSide, TGFMFormula, TGFMDescription, TGFMDescription2) VALUES ('ARINVOICE', 3, 'SERVICE', NULL, 'C', 'X3', 'รายได้ค่าบริการ', 'Service income');
+INSERT INTO QD8TGLFormat (TGFMTGFGAlias, TGFMLn, TGFMTACMAlias, TGFMTACCCode, TGFMSide, TGFMFormula, TGFMDescription, TGFMDescription2) VALUES ('ARINVOICE', 4, 'OUTVAT', NULL, 'C', 'X2', 'ภาษีขาย', 'Output VAT');
+INSERT INTO QD8TGLFormat (TGFMTGFGAlias, TGFMLn, TGFMTACMAlias, TGFMTACCCode, TGFMSide, TGFMFormula, TGFMDescription, TGFMDescription2) VALUES ('ARRECEIPT', 1, 'BANK', NULL, 'D', 'X1-X2-X3', 'รับชำระเข้าบัญชีธนาคาร', 'Received into bank');
+INSERT INTO QD8TGLFormat (TGFMTGFGAlias, TGFMLn, TGFMTACMAlias, TGFMTACCCode, TGFMSide, TGFMFormula, TGFMDescription, TGFMDescription2) VALUES ('ARRECEIPT', 2, 'WHTREC', NULL, 'D', 'X2', 'ภาษีถูกหัก ณ ที่จ่าย', 'Withholding tax deducted');
+INSERT INTO QD8TGLFormat (TGFMTGFGAlias, TGFMLn, TGFMTACMAlias, TGFMTACCCode, TGFMSide, TGFMFormula, TGFMDescription, TGFMDescription2) VALUES ('ARRECEIPT', 3, 'BANKCHARGE', NULL, 'D', 'X3', 'ค่าธรรมเนียมโอน', 'Transfer fee');
+INSERT INTO QD8TGLFormat (TGFMTGFGAlias, TGFMLn, TGFMTACMAlias, TGFMTACCCode, TGFMSide, TGFMFormula, TGFMDescription, TGFMDescription2) VALUES ('ARRECEIPT', 4, 'AR', NULL, 'C', 'X1', 'ตัดลูกหนี้', 'Receivable settled');
+INSERT INTO QD8TGLFormat (TGFMTGFGAlias, TGFMLn, TGFMTACMAlias, TGFMTACCCode, TGFMSide, TGFMFormula, TGFMDescription, TGFMDescription2) VALUES ('APINVOICE', 1, 'PURCHASE', NULL, 'D', 'X1', 'ซื้อสินค้า', 'Purchases');
+INSERT INTO QD8TGLFormat (TGFMTGFGAlias, TGFMLn, TGFMTACMAlias, TGFMTACCCode, TGFMSide, TGFMFormula, TGFMDescription, TGFMDescription2) VALUES ('APINVOICE', 2, 'INVAT', NULL, 'D', 'X2', 'ภาษีซื้อ', 'Input VAT');
+INSERT INTO QD8TGLFormat (TGFMTGFGAlias, TGFMLn, TGFMTACMAlias, TGFMTACCCode, TGFMSide, TGFMFormula, TGFMDescription, TGFMDescription2) VALUES ('APINVOICE', 3, 'AP', NULL, 'C', 'X1+X2', 'เจ้าหนี้ตามใบกำกับ', 'Payable per tax invoice');
+INSERT INTO QD8TGLFormat (TGFMTGFGAlias, TGFMLn, TGFMTACMAlias, TGFMTACCCode, TGFMSide, TGFMFormula, TGFMDescription, TGFMDescription2) VALUES ('APPAYMENT', 1, 'AP', NULL, 'D', 'X1', 'ตัดเจ้าหนี้', 'Payable settled');
+INSERT INTO QD8TGLFormat (TGFMTGFGAlias, TGFMLn, TGFMTACMAlias, TGFMTACCCode, TGFMSide, TGFMFormula, TGFMDescription, TGFMDescription2) VALUES ('APPAYMENT', 2, 'BANK', NULL, 'C', 'X1-X2', 'จ่ายชำระจากบัญชีธนาคาร', 'Paid from bank');
+INSERT INTO QD8TGLFormat (TGFMTGFGAlias, TGFMLn, TGFMTACMAlias, TGFMTACCCode, TGFMSide, TGFMFormula, TGFMDescription, TGFMDescription2) VALUES ('APPAYMENT', 3, 'WHTPAY', NULL, 'C', 'X2', 'ภาษีหัก ณ ที่จ่าย', 'Withholding tax');
+
+-- Accounting years: last year (closed), this year and next year, each with its
+-- twelve monthly periods (open). Years are calendar years, as the voucher lines
+-- carry them.
+WITH RECURSIVE years(y) AS (SELECT CAST(to_char(CURRENT_DATE, 'YYYY') AS INTEGER) - 1 UNION ALL SELECT y + 1 FROM years WHERE y < CAST(to_char(CURRENT_DATE, 'YYYY') AS INTEGER) + 1)
+INSERT INTO QD8TACYear (TACYID, TACYName, TACYName2, TACYClosed)
+SELECT y, 'ปีบัญชี ' || (y + 543), 'Fiscal year ' || y, CASE WHEN y < CAST(to_char(CURRENT_DATE, 'YYYY') AS INTEGER) THEN 1 ELSE 0 END FROM years;
+WITH RECURSIVE months(m) AS (SELECT 1 UNION ALL SELECT m + 1 FROM months WHERE m < 12)
+INSERT INTO QD8TACPeriod (TACPTACYID, TACPID, TACPClosed)
+SELECT TACYID, m, TACYClosed FROM QD8TACYear, months;
+
+-- Vouchers: 360 of twelve everyday kinds, spread over the last 400 days, numbered
+-- the way the voucher panel numbers them (book, year and month of the date, four
+-- digits), with the running numbers set after them. Each balances; the VAT kinds
+-- split their total into 7% VAT and the amount before it. The newest twenty are not
+-- confirmed yet; two in three of the older ones are approved; a few are cancelled.
+WITH RECURSIVE series(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM series WHERE i < 360),
+kinds(kind, book, descr) AS (VALUES
+    (0, 'JV', 'ค่าเสื่อมราคาเครื่องใช้สำนักงานประจำเดือน'),
+    (1, 'PV', 'จ่ายค่าโทรศัพท์และอินเทอร์เน็ต'),
+    (2, 'PV', 'เบิกเงินสดย่อยซื้อเครื่องเขียน'),
+    (3, 'RV', 'รับชำระหนี้จากลูกค้า'),
+    (4, 'SV', 'ขายสินค้าเงินเชื่อ'),
+    (5, 'PUV', 'ซื้อสินค้าเงินเชื่อ'),
+    (6, 'PV', 'จ่ายชำระหนี้ผู้จำหน่าย'),
+    (7, 'JV', 'ตั้งค่าสอบบัญชีค้างจ่าย'),
+    (8, 'PV', 'จ่ายเงินเดือนพนักงาน'),
+    (9, 'RV', 'ดอกเบี้ยเงินฝากออมทรัพย์'),
+    (10, 'PV', 'จ่ายค่าน้ำมันรถส่งของ'),
+    (11, 'JV', 'โอนเงินระหว่างบัญชีธนาคาร')),
+offsets(i, book, descr, back) AS (
+    SELECT i, book, descr, (360 - i) * 10 / 9 FROM series JOIN kinds ON kind = i % 12),
+dated(i, book, descr, d) AS (SELECT i, book, descr, CURRENT_DATE - back FROM offsets),
+numbered(i, book, descr, d, seq) AS (
+    SELECT i, book, descr, d, '000' || ROW_NUMBER() OVER (PARTITION BY book, to_char(d, 'YYMM') ORDER BY d, i) FROM dated)
+INSERT INTO QD8TGLTrans (TGLTNo, TGLTDate, TGLTTGLBCode, TGLTMode, TGLTTBraCode, TGLTDescription, TGLTInputSource, TGLTCreateBy, TGLTCreateDate, TGLTEditBy, TGLTEditDate, TGLTRevision, TGLTAmount, TGLTBalanceFlag, TGLTApproveStatus, TGLTCancelStatus, TGLTConfirmStatus, TGLTFlag3)
+SELECT book || to_char(d, 'YYMM') || substr(seq, length(seq) - 3), d, book, 1, CASE WHEN i % 5 = 0 THEN 'CNX' ELSE 'HQ' END, descr, 'JV',
+       CASE WHEN i % 3 = 0 THEN 'JOHN' ELSE 'SOMCHAI' END, d, CASE WHEN i % 3 = 0 THEN 'JOHN' ELSE 'SOMCHAI' END, d, 0,
+       500 + (i * 7919) % 98000 + (i * 37) % 100 / 100.0, 0, CASE WHEN i <= 300 AND i % 3 <> 1 THEN 1 ELSE 0 END,
+       CASE WHEN i % 47 = 0 THEN 1 ELSE 0 END, CASE WHEN i > 340 THEN 0 ELSE 1 END, d
+FROM numbered;
+WITH lines(descr, ln, account, side, part) AS (VALUES
+    ('ค่าเสื่อมราคาเครื่องใช้สำนักงานประจำเดือน', 1, '5340-03', 'D', 'T'), ('ค่าเสื่อมราคาเครื่องใช้สำนักงานประจำเดือน', 2, '1214-09', 'C', 'T'),
+    ('จ่ายค่าโทรศัพท์และอินเทอร์เน็ต', 1, '5320-04', 'D', 'N'), ('จ่ายค่าโทรศัพท์และอินเทอร์เน็ต', 2, '1141-01', 'D', 'V'), ('จ่ายค่าโทรศัพท์และอินเทอร์เน็ต', 3, '1112-01', 'C', 'T'),
+    ('เบิกเงินสดย่อยซื้อเครื่องเขียน', 1, '5330-01', 'D', 'N'), ('เบิกเงินสดย่อยซื้อเครื่องเขียน', 2, '1141-01', 'D', 'V'), ('เบิกเงินสดย่อยซื้อเครื่องเขียน', 3, '1111-02', 'C', 'T'),
+    ('รับชำระหนี้จากลูกค้า', 1, '1112-01', 'D', 'T'), ('รับชำระหนี้จากลูกค้า', 2, '1121-01', 'C', 'T'),
+    ('ขายสินค้าเงินเชื่อ', 1, '1121-01', 'D', 'T'), ('ขายสินค้าเงินเชื่อ', 2, '4110-01', 'C', 'N'), ('ขายสินค้าเงินเชื่อ', 3, '2131-01', 'C', 'V'),
+    ('ซื้อสินค้าเงินเชื่อ', 1, '5110-02', 'D', 'N'), ('ซื้อสินค้าเงินเชื่อ', 2, '1141-01', 'D', 'V'), ('ซื้อสินค้าเงินเชื่อ', 3, '2121-01', 'C', 'T'),
+    ('จ่ายชำระหนี้ผู้จำหน่าย', 1, '2121-01', 'D', 'T'), ('จ่ายชำระหนี้ผู้จำหน่าย', 2, '1112-01', 'C', 'T'),
+    ('ตั้งค่าสอบบัญชีค้างจ่าย', 1, '5330-06', 'D', 'T'), ('ตั้งค่าสอบบัญชีค้างจ่าย', 2, '2123-02', 'C', 'T'),
+    ('จ่ายเงินเดือนพนักงาน', 1, '5310-01', 'D', 'T'), ('จ่ายเงินเดือนพนักงาน', 2, '1112-01', 'C', 'T'),
+    ('ดอกเบี้ยเงินฝากออมทรัพย์', 1, '1112-02', 'D', 'T'), ('ดอกเบี้ยเงินฝากออมทรัพย์', 2, '4210-01', 'C', 'T'),
+    ('จ่ายค่าน้ำมันรถส่งของ', 1, '5330-03', 'D', 'N'), ('จ่ายค่าน้ำมันรถส่งของ', 2, '1141-01', 'D', 'V'), ('จ่ายค่าน้ำมันรถส่งของ', 3, '1111-01', 'C', 'T'),
+    ('โอนเงินระหว่างบัญชีธนาคาร', 1, '1112-02', 'D', 'T'), ('โอนเงินระหว่างบัญชีธนาคาร', 2, '1112-01', 'C', 'T')),
+amounts(no, ln, account, side, amount, d, bra, descr) AS (
+    SELECT TGLTNo, ln, account, side,
+           CASE part WHEN 'T' THEN TGLTAmount WHEN 'N' THEN ROUND(TGLTAmount * 100 / 107, 2) ELSE TGLTAmount - ROUND(TGLTAmount * 100 / 107, 2) END,
+           TGLTDate, TGLTTBraCode, lines.descr
+    FROM QD8TGLTrans JOIN lines ON lines.descr = TGLTDescription)
+INSERT INTO QD8TGLTransSub (TGTSTGLTNo, TGTSBlock, TGTSLn, TGTSInputSource, TGTSStatus, TGTSTACCCode, TGTSDebit, TGTSCredit, TGTSName, TGTSName2, TGTSDescription, TGTSDescription2, TGTSChequeNo, TGTSTACPTACYID, TGTSTACPID, TGTSTBraCode, TGTSBalanceFlag, TGTSFlag1, TGTSFlag3)
+SELECT no, 0, ln, 'JV', 0, account, CASE WHEN side = 'D' THEN amount ELSE 0 END, CASE WHEN side = 'C' THEN amount ELSE 0 END,
+       TACCName, TACCName2, descr, NULL, NULL, CAST(to_char(d, 'YYYY') AS INTEGER), CAST(to_char(d, 'MM') AS INTEGER), bra, 0, 1, d
+FROM amounts JOIN QD8TACChart ON TACCCode = account;
+INSERT INTO QD8TRunningNumber (TRunKey, TRunSubKey, TRunLastNo)
+SELECT 'DAILYRECORDCALL', substr(TGLTNo, 1, length(TGLTNo) - 4), MAX(CAST(substr(TGLTNo, length(TGLTNo) - 3) AS INTEGER))
+FROM QD8TGLTrans GROUP BY substr(TGLTNo, 1, length(TGLTNo) - 4);
 
 -- Customers with their salesman (TAR2SaleCode: Malee E003, Somchai E001, John E002)
 -- and one former customer no longer in use.

@@ -231,7 +231,7 @@ private:
     QHash<QString, QString> m_columns;
 };
 
-const QStringList DocumentForms = {"DOCPR", "DOCPO", "DOCSO", "DOCINVOICE", "DOCISSUE"};
+const QStringList DocumentForms = {"DOCGL", "DOCPR", "DOCPO", "DOCSO", "DOCINVOICE", "DOCISSUE"};
 const QStringList MasterForms = {"MASTERCUSTOMER", "MASTERPRODUCT", "MASTERSUPPLIER"};
 const QStringList LegendKeywords = {"IS NULL", "IS NOT NULL", "=", "<>", ">", "<", ">=", "<=", "D=", "D<>", "D>", "D<",
     "D>=", "D<=", "T=", "T<>", "T>", "T<", "T>=", "T<=", "BF1", "BF2", "PODUEDATE", "TPO2Acknowledge", "SODUEDATE"};
@@ -438,9 +438,11 @@ TEST_P(SampleListsTest, EveryDocumentListHoldsDocumentsInEveryStatusAndDueDatesA
         for (int code = 0; code <= 6; ++code)
             EXPECT_GT(count(d, DocumentFilter::statusCondition(QString::number(code), p, {})), 0) << "status " << code;
         const QString open = QStringLiteral(" AND %1CancelStatus<>1").arg(p);
-        EXPECT_GT(count(d, open + QStringLiteral(" AND %1DueDate<%2").arg(p, today)), 0) << "nothing overdue";
-        EXPECT_GT(count(d, open + QStringLiteral(" AND %1DueDate>=%2 AND %1DueDate<=%3").arg(p, today, inAWeek)), 0)
-            << "nothing due within a week";
+        if (d.alias() != QLatin1String("GLJV")) {  // vouchers never fall due
+            EXPECT_GT(count(d, open + QStringLiteral(" AND %1DueDate<%2").arg(p, today)), 0) << "nothing overdue";
+            EXPECT_GT(count(d, open + QStringLiteral(" AND %1DueDate>=%2 AND %1DueDate<=%3").arg(p, today, inAWeek)), 0)
+                << "nothing due within a week";
+        }
         EXPECT_GT(count(d, QStringLiteral(" AND %1Date<%2").arg(p, dateMarker(QDate::currentDate().addDays(-365)))), 0)
             << "nothing older than a year";
     }

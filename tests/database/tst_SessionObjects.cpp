@@ -5,6 +5,7 @@
 #include "database/ListService.h"
 #include "database/PermissionObject.h"
 #include "database/SessionFunctions.h"
+#include "foundation/Backend.h"
 #include "foundation/Connection.h"
 #include "foundation/DbError.h"
 #include "foundation/SqlTrace.h"
@@ -137,18 +138,27 @@ TEST_P(SessionObjectsTest, VoucherNumbersCountOnPerBookAndMonth)
 {
     DbDataObject data(dataConnectionString(), appConnectionString(), 1);
     const QString key = QStringLiteral("DAILYRECORDCALL");
-    EXPECT_EQ(data.nextRunningNumber(key, QStringLiteral("JV"), QDate(2026, 11, 21)), QStringLiteral("JV26110013"));
-    EXPECT_EQ(data.nextRunningNumber(key, QStringLiteral("JV"), QDate(2026, 11, 30)), QStringLiteral("JV26110014"));
-    EXPECT_EQ(data.nextRunningNumber(key, QStringLiteral("JV"), QDate(2026, 12, 1)), QStringLiteral("JV26120001"));
-    EXPECT_EQ(data.nextRunningNumber(key, QStringLiteral("PV"), QDate(2026, 11, 21)), QStringLiteral("PV26110001"));
+    EXPECT_EQ(data.nextRunningNumber(key, QStringLiteral("JV"), QDate(2019, 11, 21)), QStringLiteral("JV19110001"));
+    EXPECT_EQ(data.nextRunningNumber(key, QStringLiteral("JV"), QDate(2019, 11, 30)), QStringLiteral("JV19110002"));
+    EXPECT_EQ(data.nextRunningNumber(key, QStringLiteral("JV"), QDate(2019, 12, 1)), QStringLiteral("JV19120001"));
+    EXPECT_EQ(data.nextRunningNumber(key, QStringLiteral("PV"), QDate(2019, 11, 21)), QStringLiteral("PV19110001"));
 
     // Inside the caller's transaction the number is given back with it on rollback.
     Connection connection;
     connection.open(dataConnectionString());
     connection.beginTrans();
-    EXPECT_EQ(data.nextRunningNumber(key, QStringLiteral("PV"), QDate(2026, 11, 21), &connection), QStringLiteral("PV26110002"));
+    EXPECT_EQ(data.nextRunningNumber(key, QStringLiteral("PV"), QDate(2019, 11, 21), &connection), QStringLiteral("PV19110002"));
     connection.rollbackTrans();
-    EXPECT_EQ(data.nextRunningNumber(key, QStringLiteral("PV"), QDate(2026, 11, 21)), QStringLiteral("PV26110002"));
+    EXPECT_EQ(data.nextRunningNumber(key, QStringLiteral("PV"), QDate(2019, 11, 21)), QStringLiteral("PV19110002"));
+
+    // The sample's vouchers of this month took their numbers: the next one follows them.
+    const QDate today = QDate::currentDate();
+    Connection check;
+    check.open(dataConnectionString());
+    const QString prefix = QStringLiteral("JV") + today.toString(QStringLiteral("yyMM"));
+    const qint64 taken = check.query(Sql("SELECT COUNT(*) FROM QD8TGLTrans WHERE TGLTNo LIKE ") + Sql::quoted(prefix + QLatin1Char('%')))
+                             ->value(0, 0).toLongLong();
+    EXPECT_EQ(data.nextRunningNumber(key, QStringLiteral("JV"), today), prefix + QString::number(taken + 1).rightJustified(4, QLatin1Char('0')));
 }
 
 TEST_P(SessionObjectsTest, TwoConnectionsTakingNumbersAtOnceNeverShareOne)

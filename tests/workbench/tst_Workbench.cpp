@@ -132,8 +132,8 @@ TEST_P(WorkbenchTest, DeniedCommandsNeverAppearAndUnknownOnesAreReported)
 
     window->launch("NOSUCHCOMMAND");
     EXPECT_TRUE(window->statusMessage().contains("NOSUCHCOMMAND"));
-    window->launch("GLJV");  // in the catalogue, but no form in this build
-    EXPECT_TRUE(window->statusMessage().contains("GLJV") && window->statusMessage().contains("บันทึกรายการบัญชีรายวัน"));
+    window->launch("GLRECURRING");  // in the catalogue, but no form in this build
+    EXPECT_TRUE(window->statusMessage().contains("GLRECURRING") && window->statusMessage().contains("รายการบัญชีประจำงวด"));
     window->launch("x' OR '1'='1");
     EXPECT_EQ(window->tabs()->count(), 0);
 }
