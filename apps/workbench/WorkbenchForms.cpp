@@ -74,8 +74,7 @@ void registerDocumentForms()
             F::money(net, QStringLiteral("ยอดก่อนภาษี"), QStringLiteral("Amount before VAT")).mandatory(),
             F::money(vat, QStringLiteral("ภาษีมูลค่าเพิ่ม 7%"), QStringLiteral("VAT 7%")).percentOfField(net, 7),
             F::money("TIvoAmount", QStringLiteral("จำนวนเงินรวม"), QStringLiteral("Total")).sumOfFields({net, vat}),
-            F::money("TIvoArrears", QStringLiteral("ยอดค้างชำระ"), QStringLiteral("Outstanding")).shownOnly(),
-            F::text("TIvoTGLTNo", QStringLiteral("เลขที่ใบสำคัญ"), QStringLiteral("Voucher No.")).shownOnly()});
+            F::money("TIvoArrears", QStringLiteral("ยอดค้างชำระ"), QStringLiteral("Outstanding")).shownOnly()});
     invoice.copiedOnAdd.insert(QStringLiteral("TIvoArrears"), QStringLiteral("TIvoAmount"));
     invoice.posting = {QStringLiteral("ARINVOICE"), {net, vat}, QStringLiteral("TIvoTGLTNo"), QStringLiteral("TIvoTARNCode"), {}};
     registerDocument(QStringLiteral("DOCINVOICE"), invoice);
