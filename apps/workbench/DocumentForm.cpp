@@ -1,5 +1,6 @@
 #include "DocumentForm.h"
 
+#include "accounting/GLControl.h"
 #include "database/ClientObject.h"
 #include "database/ListService.h"
 #include "database/SessionFunctions.h"
@@ -52,6 +53,15 @@ QString shownMoney(const Currency& amount)
     for (qsizetype at = whole.size() - 3; at > 0; at -= 3)
         whole.insert(at, QLatin1Char(','));
     return (negative ? QStringLiteral("-") : QString()) + whole + QLatin1Char('.') + fraction;
+}
+
+// `percent` per cent of an amount, rounded half away from zero to whole satang.
+Currency percentOf(Currency amount, int percent)
+{
+    constexpr int64_t Divisor = 100 * (Currency::Scale / 100);  // per cent, and four decimals to two
+    const int64_t scaled = amount.raw() * percent;
+    const int64_t satang = (scaled + (scaled >= 0 ? Divisor / 2 : -Divisor / 2)) / Divisor;
+    return Currency::fromRaw(satang * (Currency::Scale / 100));
 }
 
 std::optional<QVariant> typedNumber(const QString& text)
@@ -213,7 +223,12 @@ DocumentForm::DocumentForm(const DocumentDefinition& definition, QWidget* parent
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(header);
     buildEntries(layout);
-    layout->addStretch(1);
+    if (!m_definition.posting.isEmpty()) {
+        m_voucher = std::make_unique<DocumentVoucher>(m_definition.posting, new GLControl(this));
+        layout->addWidget(m_voucher->panel(), 1);
+    } else {
+        layout->addStretch(1);
+    }
     layout->addLayout(buttons);
 
     connect(m_save, &QPushButton::clicked, this, [this] { save(); });
@@ -268,8 +283,10 @@ void DocumentForm::addEntry(const DocumentField& field)
     entry.box->installEventFilter(this);
     const bool wide = field.kind == DocumentField::Kind::Text && field.field != m_definition.keyField;
     entry.box->setMinimumWidth(wide ? 360 : 160);
-    if (field.kind == DocumentField::Kind::Number || field.kind == DocumentField::Kind::Money)
+    if (field.kind == DocumentField::Kind::Number || field.kind == DocumentField::Kind::Money) {
         entry.box->setAlignment(Qt::AlignRight);
+        connect(entry.box, &QLineEdit::textEdited, this, [this, name = field.field] { fieldEdited(name); });
+    }
     if (field.kind == DocumentField::Kind::Code) {
         entry.name = new QLabel(this);
         entry.name->setObjectName(field.field + QStringLiteral("Name"));
@@ -349,6 +366,8 @@ void DocumentForm::setNewKey(const QString& key)
 void DocumentForm::Setbuttons()
 {
     retranslate();
+    if (m_voucher)
+        m_voucher->attach(*this);
     if (adding() && !m_started)
         startNew();
     const bool writable = adding() || editing();
@@ -356,7 +375,7 @@ void DocumentForm::Setbuttons()
         if (!entry.box)
             continue;
         const bool isKey = entry.field.field == m_definition.keyField;
-        entry.box->setReadOnly(!writable || entry.field.readOnly || (isKey && !adding()));
+        entry.box->setReadOnly(!writable || entry.field.readOnly || !entry.field.sumOf.isEmpty() || (isKey && !adding()));
     }
     m_save->setVisible(writable);
     m_close->setVisible(true);
@@ -366,6 +385,8 @@ void DocumentForm::Setbuttons()
 void DocumentForm::FillData()
 {
     retranslate();
+    if (m_voucher)
+        m_voucher->attach(*this);
     if (adding())
         startNew();
     else
@@ -477,6 +498,8 @@ void DocumentForm::startNew()
         }
     }
     keyBox()->setText(key);
+    if (m_voucher)
+        m_voucher->startNew();
     markClean();
     m_started = true;
 }
@@ -543,6 +566,8 @@ void DocumentForm::showRow(const Recordset& rs)
         }
         showName(entry);
     }
+    if (m_voucher)
+        m_voucher->load(qd8::text(rs.field(m_definition.posting.voucherField)));
     m_loaded = true;
 }
 
@@ -689,6 +714,60 @@ QString DocumentForm::problem() const
     return {};
 }
 
+Currency DocumentForm::amountOf(const QString& field) const
+{
+    const QLineEdit* edit = box(field);
+    return edit ? Currency::parse(withoutSeparators(edit->text())).value_or(Currency()) : Currency();
+}
+
+QString DocumentForm::textOf(const QString& field) const
+{
+    const QLineEdit* edit = box(field);
+    return edit ? edit->text().trimmed() : QString();
+}
+
+void DocumentForm::fieldEdited(const QString& field)
+{
+    for (Entry& entry : m_entries)
+        if (entry.field.percentOf == field)
+            entry.box->setText(shownMoney(percentOf(amountOf(field), entry.field.percent)));
+    for (Entry& entry : m_entries) {
+        if (entry.field.sumOf.isEmpty())
+            continue;
+        Currency total;
+        for (const QString& part : entry.field.sumOf)
+            total += amountOf(part);
+        entry.box->setText(shownMoney(total));
+    }
+    refillVoucher();
+}
+
+void DocumentForm::refillVoucher()
+{
+    if (!m_voucher)
+        return;
+    QList<Currency> amounts;
+    for (const QString& field : m_definition.posting.amountFields)
+        amounts << amountOf(field);
+    m_voucher->refill(amounts);
+}
+
+void DocumentForm::postVoucher(Connection& data, const QString& key)
+{
+    const QString stem = m_definition.auditPrefix;
+    VoucherHeader header;
+    header.date = parseDate(textOf(stem + QStringLiteral("Date")), m_dateLook.era).value_or(QDate::currentDate());
+    header.documentNo = key;
+    header.description = textOf(stem + QStringLiteral("Description"));
+    header.branch = textOf(stem + QStringLiteral("TBraCode"));
+    header.project = textOf(stem + QStringLiteral("TPrjCode"));
+    header.customer = textOf(m_definition.posting.customerField);
+    header.supplier = textOf(m_definition.posting.supplierField);
+    const QString number = m_voucher->post(data, header);
+    data.execute(Sql("UPDATE ") + m_definition.table + " SET " + m_definition.posting.voucherField + "=" + quoted(number) + " WHERE "
+        + m_definition.keyField + "=" + quoted(key));
+}
+
 QString DocumentForm::missingCode(Connection& data) const
 {
     for (const Entry& entry : m_entries) {
@@ -799,7 +878,8 @@ void DocumentForm::writeChanges(Connection& data)
             bilingual("ผู้ใช้อื่นแก้ไข %1 %2 ไปแล้วหลังจากที่ท่านเปิด", "Another user changed %1 %2 after you opened it").arg(caption, key));
     bool changed = false;
     for (const Entry& entry : m_entries) {
-        if (!entry.box || entry.box->isReadOnly() || entry.box->text() == entry.clean)
+        const bool typed = !entry.box || !entry.box->isReadOnly() || !entry.field.sumOf.isEmpty();
+        if (!entry.box || !typed || entry.box->text() == entry.clean)
             continue;
         rs.setField(entry.field.field, storedValue(entry));
         changed = true;
@@ -820,7 +900,12 @@ bool DocumentForm::save()
         messages.critical(title, bilingual("ยังไม่ได้เปิดข้อมูลที่จะแก้ไข", "Nothing is loaded to edit"));
         return false;
     }
-    const QString bad = problem();
+    QString bad = problem();
+    if (bad.isEmpty() && m_voucher) {
+        // The voucher always follows the document's amounts as they stand now.
+        refillVoucher();
+        bad = m_voucher->problem(parseDate(textOf(m_definition.auditPrefix + QStringLiteral("Date")), m_dateLook.era).value_or(QDate()));
+    }
     if (!bad.isEmpty()) {
         messages.critical(title, bad);
         return false;
@@ -840,8 +925,12 @@ bool DocumentForm::save()
             key = writeNew(data, key);
         else
             writeChanges(data);
+        if (m_voucher)
+            postVoucher(data, key);
         transaction.commit();
     } catch (const DbError& error) {
+        if (m_voucher)
+            m_voucher->rollback();
         messages.critical(title, error.message() + QLatin1Char('\n')
                 + bilingual("ข้อมูลที่ท่านป้อนยังอยู่ในฟอร์ม ไม่ได้บันทึก", "What you entered is still in the form; nothing was saved."));
         return false;

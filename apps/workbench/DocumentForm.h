@@ -1,11 +1,13 @@
 #pragma once
 
+#include "DocumentVoucher.h"
 #include "foundation/DateText.h"
 #include "widgets/HostedControl.h"
 
 #include <QHash>
 #include <QList>
 #include <QVariant>
+#include <memory>
 
 class QCheckBox;
 class QLabel;
@@ -44,6 +46,11 @@ struct DocumentField {
     QString pickKey;
     QString pickName;
     QString pickWhere;
+    // Amounts the form works out: the sum of other fields (shown, not typed, written), or a
+    // percentage of another field (proposed when that one changes, the clerk may correct it).
+    QStringList sumOf;
+    QString percentOf;
+    int percent = 0;
 
     static DocumentField text(const QString& field, const QString& caption, const QString& caption2);
     static DocumentField date(const QString& field, const QString& caption, const QString& caption2);
@@ -63,6 +70,8 @@ struct DocumentField {
     DocumentField& mandatory() { required = true; return *this; }
     DocumentField& shownOnly() { readOnly = true; return *this; }
     DocumentField& startsAs(Initial value) { initial = value; return *this; }
+    DocumentField& sumOfFields(const QStringList& parts) { sumOf = parts; return *this; }
+    DocumentField& percentOfField(const QString& source, int rate) { percentOf = source; percent = rate; return *this; }
 };
 
 // What a document or master form edits: one row of one table, found by a single key.
@@ -86,6 +95,8 @@ struct DocumentDefinition {
     // Columns a new row starts with a fixed value: column -> value (the kind of a stock
     // document, which its list selects by).
     QHash<QString, QString> fixedOnAdd;
+    // A document that posts its voucher through a posting format (empty: none).
+    DocumentPosting posting;
 
     bool isMaster() const { return numberPrefix.isEmpty(); }
     // The confirm, approve and cancel flags of a document table ("<prefix>ConfirmStatus"...).
@@ -198,6 +209,12 @@ private:
     QVariant storedValue(const Entry& entry) const;
     QString writeNew(Connection& data, const QString& key);
     void writeChanges(Connection& data);
+    // Proposes the percentages and totals that follow a changed field, and the voucher lines.
+    void fieldEdited(const QString& field);
+    Currency amountOf(const QString& field) const;
+    QString textOf(const QString& field) const;
+    void refillVoucher();
+    void postVoucher(Connection& data, const QString& key);
     void setAudit(Recordset& rs, const char* by, const char* at) const;
     QString conflictWith(const Recordset& rs) const;
     void afterSave(const QString& key);
@@ -219,6 +236,7 @@ private:
     QLabel* m_status = nullptr;
     QPushButton* m_save = nullptr;
     QPushButton* m_close = nullptr;
+    std::unique_ptr<DocumentVoucher> m_voucher;  // documents that post a voucher
 };
 
 } // namespace qd8

@@ -66,11 +66,18 @@ void registerDocumentForms()
                 F::employee("TSODSaleCode", QStringLiteral("พนักงานขาย"), QStringLiteral("Salesperson")),
                 F::money("TSODTotalAmount", QStringLiteral("ยอดรวม"), QStringLiteral("Total Amount")),
                 F::status("TSODBillStatus", QStringLiteral("ออกใบแจ้งหนี้แล้ว"), QStringLiteral("Invoiced"))}));
+    // An invoice posts its voucher (receivable, sales, output VAT) through the posting format
+    // ARINVOICE, in the invoice's own transaction.
+    const QString net = QStringLiteral("TIvoNetAmount");
+    const QString vat = QStringLiteral("TIvoVATAmount");
     DocumentDefinition invoice = document("ใบแจ้งหนี้", "Invoice", "QD8TARInvoice", "TIvo", "IV",
         {F::customer("TIvoTARNCode").mandatory(), F::branch("TIvoTBraCode"),
-            F::money("TIvoAmount", QStringLiteral("จำนวนเงิน"), QStringLiteral("Amount")).mandatory(),
+            F::money(net, QStringLiteral("ยอดก่อนภาษี"), QStringLiteral("Amount before VAT")).mandatory(),
+            F::money(vat, QStringLiteral("ภาษีมูลค่าเพิ่ม 7%"), QStringLiteral("VAT 7%")).percentOfField(net, 7),
+            F::money("TIvoAmount", QStringLiteral("จำนวนเงินรวม"), QStringLiteral("Total")).sumOfFields({net, vat}),
             F::money("TIvoArrears", QStringLiteral("ยอดค้างชำระ"), QStringLiteral("Outstanding")).shownOnly()});
     invoice.copiedOnAdd.insert(QStringLiteral("TIvoArrears"), QStringLiteral("TIvoAmount"));
+    invoice.posting = {QStringLiteral("ARINVOICE"), {net, vat}, QStringLiteral("TIvoTGLTNo"), QStringLiteral("TIvoTARNCode"), {}};
     registerDocument(QStringLiteral("DOCINVOICE"), invoice);
     // A goods issue is an inventory document of the kind ICISSUEUSE, requested by an employee.
     DocumentDefinition issue = document("ใบเบิกสินค้า", "Goods Issue", "QD8TInventory", "TInv", "IS",

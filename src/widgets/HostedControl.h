@@ -88,6 +88,10 @@ public:
     DataObject* dataObject() const { return m_dataObject.get(); }
     AppObject* appObject() const { return m_appObject.get(); }
     ClientObject* clientObject() const { return m_clientObject.get(); }
+    // The same objects, shared: for handing on to a control the form embeds.
+    std::shared_ptr<DataObject> sharedDataObject() const { return m_dataObject; }
+    std::shared_ptr<AppObject> sharedAppObject() const { return m_appObject; }
+    std::shared_ptr<ClientObject> sharedClientObject() const { return m_clientObject; }
 
     // SetLast2 with "" for both connection strings.
     Q_INVOKABLE void SetLast(const QString& FolderPathName, const QString& ControlName, const QString& UserID);
