@@ -5,6 +5,7 @@
 #include "documents/DucumentList.h"
 #include "documents/MasterList.h"
 #include "editors/BranchOption.h"
+#include "editors/CustomData.h"
 #include "editors/CustomOption.h"
 #include "editors/HostOption.h"
 #include "editors/QuickGrid.h"
@@ -136,6 +137,13 @@ void registerWorkbenchForms()
         FormRegistry::registerForm(m + QStringLiteral("HOSTOPTION"), [](QWidget* parent) { return new HostOption(parent); });
         FormRegistry::registerForm(m + QStringLiteral("USEROPTION"), [](QWidget* parent) { return new UserOption(parent); });
     }
+    // The custom code lists: every list from the common module, a module's own from it.
+    FormRegistry::registerForm(QStringLiteral("CENTERCUSTOM"), [](QWidget* parent) {
+        auto* lists = new CustomData(parent);
+        lists->setQuickGroup(QStringLiteral("SM"));
+        return lists;
+    });
+    FormRegistry::registerForm(QStringLiteral("SOCUSTOM"), [](QWidget* parent) { return new CustomData(parent); });
     // The report search of the tool bar: every report of the catalogue; Enter runs one.
     registerList(QStringLiteral("WINDOW:REPORTSEARCH"),
         {QStringLiteral("ค้นหารายงาน"), QStringLiteral("Report Search"), true,
