@@ -484,7 +484,16 @@ void OptionEditor::FillData()
         Recordset rs;
         rs.open(Sql(optionQuery(group)), app);
         const QHash<QString, QString> stored = options().storedOptions(scope(), scopeKey());
-        const auto column = [&rs, &prefix](const char* name) { return rs.text(prefix + QLatin1String(name)); };
+        // The columns by position, found once: a group may hold a thousand options.
+        enum Field { Alias, Name, FieldType, Decimal, CanBlank, CanEdit, DefaultValue, LabelList, RunQuickForm, Mode, FieldCount };
+        static const char* const names[FieldCount] = {
+            "Alias", "Name", "FieldType", "Decimal", "CanBlank", "CanEdit", "DefaultValue", "LabelList", "RunQuickForm", "Mode"};
+        int index[FieldCount];
+        for (int f = 0; f < FieldCount; ++f)
+            index[f] = rs.fieldIndex(prefix + QLatin1String(names[f]) + (f == Name ? nameSuffix() : QString()));
+        const auto column = [&rs, &index](Field f) { return index[f] < 0 ? QString() : qd8::text(rs.field(index[f])); };
+        // A flag left empty allows.
+        const auto flag = [&column](Field f) { return column(f).isEmpty() ? QStringLiteral("1") : QString::number(int(toNumber(column(f)))); };
         struct Cell {
             QString type;
             int decimals;
@@ -495,20 +504,20 @@ void OptionEditor::FillData()
         QList<Cell> cells;
         for (; !rs.eof(); rs.moveNext()) {
             OptionRow option;
-            const QString alias = column("Alias");
-            const QString type = normalTypeWord(column("FieldType"));
-            option.labelList = column("LabelList");
-            option.runQuickForm = column("RunQuickForm");
-            option.defaultValue = column("DefaultValue");
+            const QString alias = column(Alias);
+            const QString type = normalTypeWord(column(FieldType));
+            option.labelList = column(LabelList);
+            option.runQuickForm = column(RunQuickForm);
+            option.defaultValue = column(DefaultValue);
             const auto found = stored.constFind(alias);
             option.stored = found != stored.constEnd();
             const QString value = option.stored ? *found : option.defaultValue;
-            const QString blank = column("CanBlank").isEmpty() ? QStringLiteral("1") : QString::number(int(toNumber(column("CanBlank"))));
-            const QString edit = column("CanEdit").isEmpty() ? QStringLiteral("1") : QString::number(int(toNumber(column("CanEdit"))));
-            values << QVariantList{alias, rs.text(prefix + QStringLiteral("Name") + nameSuffix()), option.defaultValue, typeCaption(type, !option.runQuickForm.isEmpty(), LanguageID()), value, column("Mode"), type,
-                column("Decimal"), blank, edit, numberOf(type, value),
+            const QString edit = flag(CanEdit);
+            const bool pickForm = !option.runQuickForm.isEmpty();
+            values << QVariantList{alias, column(Name), option.defaultValue, typeCaption(type, pickForm, LanguageID()), value, column(Mode), type,
+                column(Decimal), flag(CanBlank), edit, numberOf(type, value),
                 fromText(option.stored ? std::optional(scope()) : std::nullopt, value != option.defaultValue)};
-            cells << Cell{cellType(type, !option.runQuickForm.isEmpty()), int(toNumber(column("Decimal"))), option.labelList, edit != QLatin1String("0")};
+            cells << Cell{cellType(type, pickForm), int(toNumber(column(Decimal))), option.labelList, edit != QLatin1String("0")};
             d->rows << option;
         }
         d->grid->setLanguageID(LanguageID());
@@ -521,11 +530,15 @@ void OptionEditor::FillData()
             {"ชนิดตัวแปร", "D - Type", 2000}, {"ค่าที่กำหนด (F2)", "E - Value (F2)", 2600}, {"Mode", "Mode", 0}, {"Type", "Type", 0},
             {"Decimal", "Decimal", 0}, {"Blank", "Blank", 0}, {"Edit", "Edit", 0}, {"Value", "Value", 0},
             {"ที่มา (* ไม่ใช่ค่าเริ่มต้น)", "F - From (* not default)", 2200}};
-        for (const auto& c : columns)
-            d->grid->AddColumn(bilingual(c.thai, c.english), c.width, QStringLiteral("TEXT"), 0, -1, QString(), &c == &columns[ColValue - 1]);
+        for (int col = ColAlias; col <= ColFrom; ++col) {
+            const auto& c = columns[col - 1];
+            d->grid->AddColumn(bilingual(c.thai, c.english), c.width, QStringLiteral("TEXT"), 0, -1, QString(), col == ColValue);
+        }
         d->grid->AddItems(values);
         for (int row = 1; row <= cells.size(); ++row) {
             const Cell& cell = cells[row - 1];
+            if (cell.type == QLatin1String("TEXT") && cell.editable)
+                continue;  // the columns' own format
             GridColumn format = GridColumn::fromDefinition({}, 0, cell.type, cell.decimals, -1, cell.labelList, cell.editable);
             d->grid->model()->setCellFormat(row - 1, ColValue - 1, format);
             format.editable = false;
