@@ -274,7 +274,9 @@ LEFT JOIN QD8TCommandGroup g ON p.TOpGTCmGAlias = g.TCmGAlias;
 
 -- Custom code lists: many small code/description lists kept in QD8TCustom1 of
 -- the data database, told apart by TCusCode. TCusMode names the family of
--- lists (the custom code editor's RemarkMode).
+-- lists (the custom code editor's RemarkMode). TCusDeleteTable/TCusDeleteField name
+-- the document column that refers to a code of the list: a code found there is not
+-- deleted (TCusDeleteMessage says why).
 CREATE TABLE QD8TCustomData (
     TCusCode VARCHAR(50) NOT NULL,
     TCusName VARCHAR(200) COLLATE THAI,
@@ -286,6 +288,9 @@ CREATE TABLE QD8TCustomData (
     TCusWhere VARCHAR(2000),
     TCusOrder VARCHAR(500),
     TCusMode INTEGER DEFAULT 0,
+    TCusDeleteTable VARCHAR(100),
+    TCusDeleteField VARCHAR(100),
+    TCusDeleteMessage VARCHAR(500) COLLATE THAI,
     TCusSort INTEGER DEFAULT 0,
     TCusFlag1 INTEGER DEFAULT 1,
     PRIMARY KEY (TCusCode)

@@ -5,7 +5,12 @@
 #include "VoucherForm.h"
 #include "documents/DucumentList.h"
 #include "documents/MasterList.h"
+#include "editors/BranchOption.h"
+#include "editors/CustomData.h"
+#include "editors/CustomOption.h"
+#include "editors/HostOption.h"
 #include "editors/QuickGrid.h"
+#include "editors/UserOption.h"
 #include "widgets/FormRegistry.h"
 
 namespace qd8 {
@@ -132,6 +137,21 @@ void registerWorkbenchForms()
     // The master data of a module: every quick form of the command's module.
     for (const char* alias : {"GLQUICK", "ICQUICK", "HRQUICK"})
         FormRegistry::registerForm(QString::fromLatin1(alias), quickGrid);
+    // Each module's option commands open the editor of their scope on the module's groups.
+    for (const char* module : {"GL", "AR", "IC", "AP", "PU", "SO", "HR"}) {
+        const QString m = QString::fromLatin1(module);
+        FormRegistry::registerForm(m + QStringLiteral("OPTION"), [](QWidget* parent) { return new CustomOption(parent); });
+        FormRegistry::registerForm(m + QStringLiteral("BRANCHOPTION"), [](QWidget* parent) { return new BranchOption(parent); });
+        FormRegistry::registerForm(m + QStringLiteral("HOSTOPTION"), [](QWidget* parent) { return new HostOption(parent); });
+        FormRegistry::registerForm(m + QStringLiteral("USEROPTION"), [](QWidget* parent) { return new UserOption(parent); });
+    }
+    // The custom code lists: every list from the common module, a module's own from it.
+    FormRegistry::registerForm(QStringLiteral("CENTERCUSTOM"), [](QWidget* parent) {
+        auto* lists = new CustomData(parent);
+        lists->setQuickGroup(QStringLiteral("SM"));
+        return lists;
+    });
+    FormRegistry::registerForm(QStringLiteral("SOCUSTOM"), [](QWidget* parent) { return new CustomData(parent); });
     // The report search of the tool bar: every report of the catalogue; Enter runs one.
     registerList(QStringLiteral("WINDOW:REPORTSEARCH"),
         {QStringLiteral("ค้นหารายงาน"), QStringLiteral("Report Search"), true,

@@ -9,6 +9,7 @@
 #include "database/SessionServices.h"
 #include "documents/DucumentList.h"
 #include "documents/MasterList.h"
+#include "editors/HostOption.h"
 #include "foundation/Connection.h"
 #include "foundation/ConnectionString.h"
 #include "foundation/DbError.h"
@@ -37,6 +38,7 @@
 #include <QRegularExpression>
 #include <QScreen>
 #include <QStatusBar>
+#include <QSysInfo>
 #include <QTabWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -421,8 +423,14 @@ void WorkbenchWindow::loadControl(HostedControl& control, const Command& command
         list->SetFilter(command.alias, command.group, data, app, client, this, command.caption, command.caption);
         return;
     }
-    if (control.property("QuickGroup").isValid() && control.property("QuickGroup").toString().isEmpty())
-        control.setProperty("QuickGroup", command.group);
+    // Editors offer the forms or option groups of the command's module.
+    for (const char* group : {"QuickGroup", "OptionGroup"})
+        if (control.property(group).isValid() && control.property(group).toString().isEmpty())
+            control.setProperty(group, command.group);
+    // The workstation editor is told which workstation this is and its configuration file.
+    if (auto* host = qobject_cast<HostOption*>(&control))
+        host->SetLast2(control.session().FolderPathName, command.alias, QString::number(m_session.userId), m_session.dataConnectionString,
+            m_session.appConnectionString, QSysInfo::machineHostName(), m_session.appPath + QStringLiteral("/QD8STARTUP.INI"));
     control.Refresh();
     // Editors load their rows after listing what they offer.
     if (control.metaObject()->indexOfSlot("FillData()") >= 0)

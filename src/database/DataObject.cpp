@@ -8,6 +8,7 @@
 #include "foundation/Values.h"
 
 #include <QDateTime>
+#include <QSysInfo>
 
 namespace qd8 {
 
@@ -32,11 +33,19 @@ OptionTable definitionTable(OptionScope scope)
 
 constexpr int MaxNumberAttempts = 5;
 
+// Narrowest first: the order in which a stored value wins.
+constexpr OptionScope ResolutionOrder[] = {OptionScope::User, OptionScope::Host, OptionScope::Branch, OptionScope::Company};
+
 } // namespace
 
 double DataObject::optionNumber(const QString& alias, OptionScope scope, const QString& scopeKey)
 {
     return toNumber(optionText(alias, scope, scopeKey));
+}
+
+double DataObject::effectiveNumber(const QString& alias)
+{
+    return toNumber(effectiveText(alias));
 }
 
 DbDataObject::DbDataObject(const QString& dataConnectionString, const QString& appConnectionString, qint32 userId,
@@ -45,6 +54,7 @@ DbDataObject::DbDataObject(const QString& dataConnectionString, const QString& a
     , m_appConnectionString(appConnectionString)
     , m_userId(userId)
     , m_userLoginName(userLoginName)
+    , m_hostName(QSysInfo::machineHostName())
 {
 }
 
@@ -73,14 +83,96 @@ QString DbDataObject::optionText(const QString& alias, OptionScope scope, const 
     }
     if (m_appConnectionString.isEmpty())
         return {};
-    const OptionTable definition = definitionTable(scope);
-    const QString prefix = QLatin1String(definition.prefix);
     Connection app;
     app.open(m_appConnectionString);
+    return optionDefault(app, scope, alias).value_or(QString());
+}
+
+QString DbDataObject::userBranch(Connection& data, qint32 userId)
+{
+    Recordset user;
+    user.open(Sql("SELECT TUsrTEmpCode FROM Qd8TUser WHERE TUsrID=") + number(QString::number(userId)), data);
+    if (user.eof() || user.text(QStringLiteral("TUsrTEmpCode")).isEmpty())
+        return {};
+    Recordset employee;
+    employee.open(Sql("SELECT TEmpTBraCode FROM Qd8TEmployee WHERE TEmpCode=") + quoted(user.text(QStringLiteral("TUsrTEmpCode"))), data);
+    return employee.eof() ? QString() : employee.text(QStringLiteral("TEmpTBraCode"));
+}
+
+std::optional<QString> DbDataObject::optionDefault(Connection& app, OptionScope scope, const QString& alias)
+{
+    const OptionTable definition = definitionTable(scope);
+    const QString prefix = QLatin1String(definition.prefix);
     Recordset rs;
-    rs.open(Sql("SELECT ") + prefix + "DefaultValue FROM " + QLatin1String(definition.table) + " WHERE " + prefix + "Alias=" + quoted(alias),
-        app);
-    return rs.eof() ? QString() : rs.text(prefix + QStringLiteral("DefaultValue"));
+    rs.open(Sql("SELECT ") + prefix + "DefaultValue FROM " + QLatin1String(definition.table) + " WHERE " + prefix + "Alias=" + quoted(alias), app);
+    if (rs.eof())
+        return std::nullopt;
+    return rs.text(prefix + QStringLiteral("DefaultValue"));
+}
+
+OptionValue DbDataObject::effectiveOption(const QString& alias)
+{
+    OptionValue value;
+    if (!m_appConnectionString.isEmpty()) {
+        // An alias is defined in one scope's table; should two define it, the narrowest
+        // definition gives the default.
+        Connection app;
+        app.open(m_appConnectionString);
+        for (OptionScope scope : ResolutionOrder)
+            if (const auto defined = optionDefault(app, scope, alias)) {
+                value.defaultText = *defined;
+                break;
+            }
+    }
+    value.text = value.defaultText;
+    Connection data;
+    data.open(m_connectionString);
+    Recordset rs;
+    rs.open(Sql("SELECT TOpVScope, TOpVScopeKey, TOpVValue FROM QD8TOptionValue WHERE TOpVTOptAlias=") + quoted(alias), data);
+    QHash<QString, QString> stored;  // "SCOPE|key" -> value
+    bool branchValues = false;
+    for (; !rs.eof(); rs.moveNext()) {
+        const QString scope = rs.text(QStringLiteral("TOpVScope"));
+        branchValues = branchValues || scope == scopeName(OptionScope::Branch);
+        stored.insert(scope + QLatin1Char('|') + rs.text(QStringLiteral("TOpVScopeKey")), rs.text(QStringLiteral("TOpVValue")));
+    }
+    // The user's branch is looked up only when some branch holds a value.
+    const QString keys[] = {QString::number(m_userId), m_hostName, branchValues ? userBranch(data, m_userId) : QString(), QString()};
+    for (int i = 0; i < 4; ++i) {
+        const OptionScope scope = ResolutionOrder[i];
+        if (scope != OptionScope::Company && keys[i].isEmpty())
+            continue;
+        const auto found = stored.constFind(scopeName(scope) + QLatin1Char('|') + keys[i]);
+        if (found == stored.constEnd())
+            continue;
+        value.text = *found;
+        value.scope = scope;
+        value.isDefault = false;
+        break;
+    }
+    return value;
+}
+
+QHash<QString, QString> DbDataObject::storedOptions(OptionScope scope, const QString& scopeKey)
+{
+    QHash<QString, QString> values;
+    Connection data;
+    data.open(m_connectionString);
+    Recordset rs;
+    rs.open(Sql("SELECT TOpVTOptAlias, TOpVValue FROM QD8TOptionValue WHERE TOpVScope=") + quoted(scopeName(scope)) + " AND TOpVScopeKey="
+            + quoted(scopeKey),
+        data);
+    for (; !rs.eof(); rs.moveNext())
+        values.insert(rs.text(QStringLiteral("TOpVTOptAlias")), rs.text(QStringLiteral("TOpVValue")));
+    return values;
+}
+
+void DbDataObject::removeOption(Connection& connection, OptionScope scope, const QString& scopeKey, const QString& alias)
+{
+    Backend& backend = connection.backend();
+    connection.execute(Sql(QStringLiteral("DELETE FROM QD8TOptionValue WHERE TOpVScope=%1 AND TOpVScopeKey=%2 AND TOpVTOptAlias=%3")
+                               .arg(backend.placeholder(1), backend.placeholder(2), backend.placeholder(3))),
+        {scopeName(scope), scopeKey, alias});
 }
 
 void DbDataObject::storeOption(Connection& connection, OptionScope scope, const QString& scopeKey, const QString& alias,

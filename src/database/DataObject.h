@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QDate>
+#include <QHash>
 #include <QString>
+#include <optional>
 
 namespace qd8 {
 
@@ -9,6 +11,15 @@ class Connection;
 
 // Where an option value is kept: the company, a branch, a workstation or a user.
 enum class OptionScope { Company, Branch, Host, User };
+
+// The value of an option in force for one session, and where it comes from.
+struct OptionValue {
+    QString text;
+    OptionScope scope = OptionScope::Company;  // the scope that holds it (when not a default)
+    bool isDefault = true;                     // no scope holds a value: the option's default
+    QString defaultText;                       // the option's default, for comparison
+    bool differsFromDefault() const { return text != defaultText; }
+};
 
 // The company data database and the user working in it, as the host hands it to the
 // controls: its options and its running numbers.
@@ -23,9 +34,19 @@ public:
     // An option's value in a scope: the stored one, else the option's default.
     virtual QString optionText(const QString& alias, OptionScope scope = OptionScope::Company, const QString& scopeKey = {}) = 0;
     double optionNumber(const QString& alias, OptionScope scope = OptionScope::Company, const QString& scopeKey = {});
+    // The value in force for this session: the user's own, else the workstation's, else the
+    // branch's (the user's branch), else the company's, else the option's default. Every
+    // control that obeys an option reads it here.
+    virtual OptionValue effectiveOption(const QString& alias) = 0;
+    QString effectiveText(const QString& alias) { return effectiveOption(alias).text; }
+    double effectiveNumber(const QString& alias);
+    // Every value stored in one scope under one key, by alias (the option editors' load).
+    virtual QHash<QString, QString> storedOptions(OptionScope scope, const QString& scopeKey) = 0;
     // Stores an option value on an open connection (inside the caller's transaction).
     virtual void storeOption(Connection& connection, OptionScope scope, const QString& scopeKey, const QString& alias,
         const QString& text, double number) = 0;
+    // Removes a stored value, so the scope takes the next one again (reset to default).
+    virtual void removeOption(Connection& connection, OptionScope scope, const QString& scopeKey, const QString& alias) = 0;
 
     // A number that is never handed out twice, even to two connections asking at once.
     // Under "DAILYRECORDCALL" with a journal-book code and a voucher date it is the
@@ -49,12 +70,23 @@ public:
     QString userLoginName() const override { return m_userLoginName; }
 
     QString optionText(const QString& alias, OptionScope scope = OptionScope::Company, const QString& scopeKey = {}) override;
+    OptionValue effectiveOption(const QString& alias) override;
+    QHash<QString, QString> storedOptions(OptionScope scope, const QString& scopeKey) override;
     void storeOption(Connection& connection, OptionScope scope, const QString& scopeKey, const QString& alias,
         const QString& text, double number) override;
+    void removeOption(Connection& connection, OptionScope scope, const QString& scopeKey, const QString& alias) override;
+    // The workstation whose values apply; the machine's host name unless the host sets another.
+    QString hostName() const { return m_hostName; }
+    void setHostName(const QString& hostName) { m_hostName = hostName; }
     QString nextRunningNumber(const QString& key, const QString& subKey, const QDate& date, Connection* within = nullptr) override;
     qint64 takeNumber(const QString& key, const QString& subKey, Connection* within = nullptr) override;
 
     static QString scopeName(OptionScope scope);
+    // The branch of a user: TEmpTBraCode of the employee the user is (TUsrTEmpCode); "" for none.
+    static QString userBranch(Connection& data, qint32 userId);
+    // The option's default from the definition of its scope, read on the application
+    // database; nothing when that scope does not define the alias.
+    static std::optional<QString> optionDefault(Connection& app, OptionScope scope, const QString& alias);
 
 private:
     qint64 takeNumberOn(Connection& connection, const QString& key, const QString& subKey);
@@ -63,6 +95,7 @@ private:
     QString m_appConnectionString;
     qint32 m_userId;
     QString m_userLoginName;
+    QString m_hostName;
 };
 
 } // namespace qd8

@@ -113,6 +113,45 @@ QString QuickFormMetadata::keyList() const
     return pkList.startsWith(QLatin1Char(',')) ? pkList.mid(1) : pkList;
 }
 
+QuickFormMetadata QuickFormMetadata::readCustomList(Connection& app, const QString& code)
+{
+    QuickFormMetadata list;
+    list.alias = code;
+    int maxLength = 0;
+    {
+        Recordset rs;
+        rs.open(Sql("SELECT * FROM QD8TCustomData WHERE TCusCode=") + quoted(code), app);
+        if (rs.eof())
+            return list;
+        const Row row(rs);
+        list.found = true;
+        list.caption = row.text("TCusName");
+        list.caption2 = row.text("TCusName2");
+        list.table = row.text("TCusTable").isEmpty() ? QStringLiteral("QD8TCustom1") : row.text("TCusTable");
+        list.view = QStringLiteral("QD8TCustom1");
+        list.keyPrefix = QStringLiteral("TCS1");
+        list.pkList = row.text("TCusPKList");
+        list.where = QStringLiteral("TCS1Type='") + code + QLatin1Char('\'')
+            + (row.text("TCusWhere").isEmpty() ? QString() : QStringLiteral(" AND ") + row.text("TCusWhere"));
+        list.order = row.text("TCusOrder");
+        list.deleteTable = row.text("TCusDeleteTable");
+        list.deleteField = row.text("TCusDeleteField");
+        list.deleteMessage = row.text("TCusDeleteMessage");
+        list.deleteAuto = !list.deleteTable.isEmpty() && !list.deleteField.isEmpty();
+        maxLength = row.number("TCusMaxLen");
+    }
+    Recordset rs;
+    rs.open(Sql("SELECT * FROM QD8TQuickField WHERE TQFFTCusCode=") + quoted(code) + " ORDER BY TQFFSort", app);
+    const Row row(rs);
+    for (; !rs.eof(); rs.moveNext()) {
+        list.fields << readField(row);
+        QuickFieldMetadata& f = list.fields.last();
+        if (f.fieldName.compare(QLatin1String("TCS1Code"), Qt::CaseInsensitive) == 0 && f.maxLength == 0)
+            f.maxLength = maxLength;
+    }
+    return list;
+}
+
 QuickFormMetadata QuickFormMetadata::read(Connection& app, const QString& alias, Reading reading)
 {
     const bool activeOnly = reading == Reading::Editor;

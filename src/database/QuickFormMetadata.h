@@ -104,6 +104,10 @@ struct QuickFormMetadata : QuickFormRules {
     // Reads the form `alias` and (but for FormOnly) its fields from the application
     // database. A missing form row gives found false; DbError on a failing statement.
     static QuickFormMetadata read(Connection& app, const QString& alias, Reading reading);
+    // A custom code list (QD8TCustomData) as a form over the rows of QD8TCustom1 of type
+    // `code` (its where and order added), its columns the QD8TQuickField rows of
+    // TQFFTCusCode; TCusMaxLen bounds the code, TCusDeleteTable/Field name the in-use check.
+    static QuickFormMetadata readCustomList(Connection& app, const QString& code);
 };
 
 } // namespace qd8

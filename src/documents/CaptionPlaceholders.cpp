@@ -127,7 +127,7 @@ QString CaptionPlaceholders::option(const QString& alias)
     QString value;
     if (m_options) {
         try {
-            value = m_options->optionText(alias);
+            value = m_options->effectiveText(alias);
         } catch (const DbError&) {
             // An option that cannot be read counts as empty, so its default shows.
         }

@@ -113,7 +113,7 @@ void DucumentList::readSessionChoices()
                              QStringLiteral("QD8TCommand"), AppConnectionString())
                          .toInt();
         if (dataObject())
-            m_projectFilterOn = dataObject()->optionNumber(QStringLiteral("EnableProjectFilter")) != 0;
+            m_projectFilterOn = dataObject()->effectiveNumber(QStringLiteral("EnableProjectFilter")) != 0;
         m_defaultProject =
             DbSessionFunctions::userSettingText(UserID(), QStringLiteral("DefaultUserProject"), DataConnectionString()).trimmed();
         m_salesman = SessionServices::listService()

@@ -146,7 +146,7 @@ void LegendList::readOptions(DataObject& options)
 {
     const auto read = [&options](const char* alias) {
         try {
-            return options.optionNumber(QLatin1String(alias));
+            return options.effectiveNumber(QLatin1String(alias));
         } catch (const DbError&) {
             return 0.0;
         }

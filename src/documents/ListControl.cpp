@@ -131,7 +131,7 @@ bool ListControl::loadDefinition(const QString& iCommandAlias, const QString& iC
                              .LookupValue(0, QStringLiteral("TUsrID"), UserID(), QStringLiteral("TUsrProjectLevel"),
                                  QStringLiteral("QD8TUser"), DataConnectionString())
                              .toInt();
-        const double menu = dataObject() ? dataObject()->optionNumber(iCommandAlias + QStringLiteral("Menu")) : 0;
+        const double menu = dataObject() ? dataObject()->effectiveNumber(iCommandAlias + QStringLiteral("Menu")) : 0;
         m_def = ListDefinition::load(ListDefinition::variantAlias(iCommandAlias, menu), AppConnectionString(), LanguageID());
         m_def.WidthList = ListDefinition::costWidths(m_def.WidthList, permission());
         if (!m_prefixFromHost)

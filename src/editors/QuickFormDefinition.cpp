@@ -8,6 +8,8 @@ namespace qd8 {
 
 QList<int> QuickFormDefinition::keyColumns() const
 {
+    if (!keyOrder.isEmpty())
+        return keyOrder;
     QList<int> columns;
     for (int i = 0; i < fields.size(); ++i)
         if (fields[i].primaryKey)

@@ -14,6 +14,7 @@ class Connection;
 struct QuickFieldDefinition : QuickFieldRules {
     QString caption;
     int width = 1440;
+    bool written = true;  // false: a working column the save does not write (the code as read)
 };
 
 // A quick form as the editor loads it (QD8TQuickForm and its active fields), plus the
@@ -24,6 +25,7 @@ struct QuickFormDefinition : QuickFormRules {
     QString keyField;       // the last key field
     int keyColumn = 0;      // its grid column (1-based)
     QList<QuickFieldDefinition> fields;  // grid columns 1..n, the flag column last
+    QList<int> keyOrder;    // the key columns in the order rows are found by; empty: grid order
 
     bool isLoaded() const { return !alias.isEmpty(); }
     // The last key column; an empty definition when the form has none.

@@ -165,20 +165,40 @@ QStringList QuickGrid::propertyKeysRead() const
     return {QStringLiteral("ConnectionString"), QStringLiteral("DataConnectionString"), QStringLiteral("QuickGroup")};
 }
 
+QuickGrid::Catalogue QuickGrid::catalogue() const
+{
+    Catalogue c;
+    c.listing = m_quickGroup.isEmpty() ? Sql("SELECT * FROM QD8VQuickGroup ORDER BY TQfMSort")
+                                       : Sql("SELECT * FROM QD8VQuickGroup WHERE TCmGAlias=") + quoted(m_quickGroup) + " ORDER BY TQfMSort";
+    c.keyField = QStringLiteral("TQFmAlias");
+    c.captionField = QStringLiteral("TQFmCaption") + nameSuffix();
+    const bool oneGroup = !m_quickGroup.isEmpty() && m_quickGroup != QLatin1String("SM");
+    const QString source = oneGroup
+        ? QStringLiteral("QD8VQuickGroup WHERE TQFmFlag1=1 AND TCmGFlag1=1 AND TCmGAlias='") + m_quickGroup + QStringLiteral("' ORDER BY TQFmCaption")
+        : QStringLiteral("QD8VQuickGroupBK WHERE TQFmFlag1=1 AND TCmGFlag1=1 ORDER BY TQFmCaption");
+    c.pick = {QStringLiteral("Select Group Code"), QStringLiteral("TQFmAlias"), QStringLiteral("TQFmAlias,TQFmCaption") + nameSuffix(),
+        QStringLiteral("ALIAS,Group Code"), QStringLiteral("0,3800"), QStringLiteral("0,0"), source, ConnectionString()};
+    return c;
+}
+
+QuickFormDefinition QuickGrid::readDefinition(Connection& app, const QString& alias) const
+{
+    return QuickFormDefinition::load(app, alias, LanguageID());
+}
+
 void QuickGrid::Refresh()
 {
     m_groupForms.clear();
     if (ConnectionString().isEmpty())
         return;
-    Sql sql = m_quickGroup.isEmpty() ? Sql("SELECT * FROM QD8VQuickGroup ORDER BY TQfMSort")
-                                     : Sql("SELECT * FROM QD8VQuickGroup WHERE TCmGAlias=") + quoted(m_quickGroup) + " ORDER BY TQfMSort";
+    const Catalogue c = catalogue();
     try {
         Connection app;
         app.open(ConnectionString());
         Recordset rs;
-        rs.open(sql, app);
+        rs.open(c.listing, app);
         for (; !rs.eof(); rs.moveNext())
-            m_groupForms.append({rs.text(QStringLiteral("TQFmAlias")), rs.text(QStringLiteral("TQFmCaption") + nameSuffix())});
+            m_groupForms.append({rs.text(c.keyField), rs.text(c.captionField)});
     } catch (const DbError& error) {
         Services::messages().critical(bilingual("ฟอร์มข้อมูล", "Quick Form"), error.message());
     }
@@ -189,17 +209,12 @@ void QuickGrid::chooseForm()
     // Another form while editing would drop the edits.
     if (m_locked || m_runMode == QLatin1String("ADD") || m_runMode == QLatin1String("EDIT"))
         return;
-    const bool oneGroup = !m_quickGroup.isEmpty() && m_quickGroup != QLatin1String("SM");
-    const QString source = oneGroup
-        ? QStringLiteral("QD8VQuickGroup WHERE TQFmFlag1=1 AND TCmGFlag1=1 AND TCmGAlias='") + m_quickGroup + QStringLiteral("' ORDER BY TQFmCaption")
-        : QStringLiteral("QD8VQuickGroupBK WHERE TQFmFlag1=1 AND TCmGFlag1=1 ORDER BY TQFmCaption");
+    const PickRequest pick = catalogue().pick;
     QString alias;
     try {
-        alias = SessionServices::listService().PickFromList(QStringLiteral("Select Group Code"), QStringLiteral("TQFmAlias"),
-            QStringLiteral("TQFmAlias,TQFmCaption") + nameSuffix(), QStringLiteral("ALIAS,Group Code"), QStringLiteral("0,3800"),
-            QStringLiteral("0,0"), source, ConnectionString(), 0, 0, 0, 1, 0, 0);
+        alias = SessionServices::listService().PickFromList(pick);
     } catch (const DbError& error) {
-        Services::messages().critical(QStringLiteral("Select Group Code"), error.message());
+        Services::messages().critical(pick.title, error.message());
         return;
     }
     if (!alias.isEmpty())
@@ -267,7 +282,7 @@ void QuickGrid::FillData()
         app.open(ConnectionString());
         Connection data;
         data.open(DataConnectionString());
-        m_form = QuickFormDefinition::load(app, alias, LanguageID());
+        m_form = readDefinition(app, alias);
         if (!m_form.isLoaded()) {
             enterMode(QStringLiteral("BLANK"));
             return;

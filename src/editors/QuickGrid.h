@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editors/QuickFormDefinition.h"
+#include "foundation/PickRequest.h"
 #include "foundation/Sql.h"
 #include "widgets/HostedControl.h"
 
@@ -17,6 +18,7 @@ namespace qd8 {
 class Connection;
 class GridEditor;
 class ProgressScope;
+class Recordset;
 
 // Edits a simple master table of the company data (divisions, units, employee types...)
 // described by a quick form: QD8TQuickForm/QD8TQuickField of the application database say
@@ -97,6 +99,21 @@ Q_SIGNALS:
     void ChangeGroup();
 
 protected:
+    // What the editor lists and how the user picks one entry: the quick forms of a group,
+    // or (the custom code editor) the code lists.
+    struct Catalogue {
+        Sql listing;           // Refresh
+        QString keyField;      // an entry's key, in the listing and the pick list
+        QString captionField;  // its title (language suffix included)
+        PickRequest pick;      // the selector's pick list
+    };
+    virtual Catalogue catalogue() const;
+    // The definition of entry `alias` as the editor loads it; not loaded when unknown.
+    virtual QuickFormDefinition readDefinition(Connection& app, const QString& alias) const;
+    // What a written row holds beyond its columns, set just before the row is written.
+    virtual void completeRow(Recordset&) {}
+    virtual void print();
+    QLabel* selectLabel() const { return m_selectLabel; }
     bool event(QEvent* event) override;
     QStringList propertyKeysRead() const override;
     GridEditor* hostedGrid() const override { return m_grid; }
@@ -115,7 +132,6 @@ private:
     // The key values of the current row, to find the same record after the rows are read again.
     QStringList currentKey() const;
     void selectKey(const QStringList& key);
-    void print();
     void applyFilter(const QString& text);
     void pickIntoCell();
     // Words the editor shows itself (selector, buttons, filter box) in the session language.

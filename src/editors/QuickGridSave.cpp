@@ -227,7 +227,7 @@ bool QuickGrid::writeRows(Connection& data, ProgressScope& progress, int& saved,
                 rs.addNew();
             for (int col = 1; col <= m_form.fields.size(); ++col) {
                 const QuickFieldDefinition& f = m_form.fields[col - 1];
-                if (isAutoNumber(f))
+                if (isAutoNumber(f) || !f.written)
                     continue;
                 // A read row writes only what the user changed.
                 const QVariant value = m_grid->GetValue(row, col);
@@ -235,6 +235,7 @@ bool QuickGrid::writeRows(Connection& data, ProgressScope& progress, int& saved,
                     continue;
                 rs.setField(f.fieldName, value);
             }
+            completeRow(rs);
             rs.update();
             ++saved;
         } catch (const DbError& error) {

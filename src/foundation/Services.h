@@ -58,6 +58,9 @@ public:
     virtual QDate pickMonth(QDate initial, int style, QPoint position, const DateLook& look) = 0;
     // Several lines of text; nothing when the user cancelled.
     virtual std::optional<QString> inputMultiLine(const QString& title, const QString& text, int languageId) = 0;
+    // A colour of the colour dialog as the suite's colour number (red + green*256 +
+    // blue*65536); -1 when the user cancelled.
+    virtual int pickColor(int initial, const QString& title) = 0;
 };
 
 class ShellService {

@@ -11,6 +11,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QColorDialog>
 #include <QDesktopServices>
 #include <QMessageBox>
 #include <QInputDialog>
@@ -153,6 +154,13 @@ std::optional<QString> DialogPickerService::inputMultiLine(const QString& title,
     if (form.exec() != QDialog::Accepted)
         return std::nullopt;
     return form.result();
+}
+
+int DialogPickerService::pickColor(int initial, const QString& title)
+{
+    const QColor start = initial < 0 ? QColor(Qt::white) : QColor(initial & 0xff, (initial >> 8) & 0xff, (initial >> 16) & 0xff);
+    const QColor picked = QColorDialog::getColor(start, activeWindow(), title);
+    return picked.isValid() ? picked.red() + picked.green() * 256 + picked.blue() * 65536 : -1;
 }
 
 // The suite names Windows programs; this desktop runs its own equivalents, and a folder

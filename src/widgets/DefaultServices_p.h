@@ -33,6 +33,7 @@ public:
     QDateTime pickDateTime(const QDateTime& initial, QPoint position, const DateLook& look) override;
     QDate pickMonth(QDate initial, int style, QPoint position, const DateLook& look) override;
     std::optional<QString> inputMultiLine(const QString& title, const QString& text, int languageId) override;
+    int pickColor(int initial, const QString& title) override;
 };
 
 class QtShellService : public ShellService {

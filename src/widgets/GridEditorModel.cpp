@@ -281,6 +281,9 @@ void GridEditorModel::setCellFormat(int row, int column, const GridColumn& forma
     own.decimals = format.decimals;
     own.labels = format.labels;
     own.alignment = format.alignment;
+    // A cell may be closed to editing in a column that is open, never the other way round.
+    own.editable = own.editable && format.editable;
+    own.newRowsEditable = own.newRowsEditable && format.newRowsEditable;
     m_rows[row].formats.insert(column, own);
     const QModelIndex changed = index(row, column);
     emit dataChanged(changed, changed);

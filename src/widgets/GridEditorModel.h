@@ -63,8 +63,8 @@ public:
     void setCaption(int column, const QString& caption);
     // The column a cell follows: its own format when one was set, else its column's.
     const GridColumn& cellColumn(int row, int column) const;
-    // Gives one cell a type of its own (type, decimals and labels of `format`); whether it
-    // may be edited stays its column's.
+    // Gives one cell a type of its own (type, decimals and labels of `format`); `format` may
+    // close the cell to editing (a read-only option) but never opens one its column closes.
     void setCellFormat(int row, int column, const GridColumn& format);
 
     // A row read from the table: values in column order, untouched. Returns its row.

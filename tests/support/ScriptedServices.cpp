@@ -70,6 +70,11 @@ std::optional<QString> ScriptedPicker::inputMultiLine(const QString&, const QStr
     return textAnswers.isEmpty() ? std::nullopt : textAnswers.takeFirst();
 }
 
+int ScriptedPicker::pickColor(int, const QString&)
+{
+    return colorAnswers.isEmpty() ? -1 : colorAnswers.takeFirst();
+}
+
 bool ScriptedShell::run(const QString& commandLine, int windowStyle)
 {
     commands << QStringLiteral("run:%1:%2").arg(commandLine).arg(windowStyle);

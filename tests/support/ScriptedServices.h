@@ -44,6 +44,8 @@ public:
     QDate pickMonth(QDate initial, int style, QPoint position, const DateLook& look) override;
     // Answers from `textAnswers`; cancelled once it is empty.
     std::optional<QString> inputMultiLine(const QString& title, const QString& text, int languageId) override;
+    // Answers from `colorAnswers`; cancelled (invalid) once it is empty.
+    int pickColor(int initial, const QString& title) override;
 
     // One date pick as asked: "date", "datetime" or "month", what it opened with, where.
     struct DateAsk {
@@ -61,10 +63,11 @@ public:
     QList<QDateTime> dateAnswers;
     QList<DateAsk> dateAsks;
     QList<std::optional<QString>> textAnswers;
+    QList<int> colorAnswers;
     void reset()
     {
         answers.clear(); requests.clear(); choices.clear(); choiceTitles.clear();
-        dateAnswers.clear(); dateAsks.clear(); textAnswers.clear();
+        dateAnswers.clear(); dateAsks.clear(); textAnswers.clear(); colorAnswers.clear();
     }
 };
 
