@@ -1,7 +1,6 @@
 #include "VoucherForm.h"
 
 #include "accounting/GLControl.h"
-#include "database/DataObject.h"
 #include "foundation/DbError.h"
 #include "foundation/Services.h"
 #include "widgets/DateEdit.h"
@@ -51,8 +50,7 @@ void VoucherForm::ensureSession()
 {
     if (m_sessionGiven)
         return;
-    m_gl->SetFirst(this, std::make_shared<DbDataObject>(DataConnectionString(), AppConnectionString(), UserID(), UserLoginName()),
-        nullptr, nullptr, {});
+    m_gl->SetFirst(this, sharedDataObject(), sharedAppObject(), sharedClientObject(), {});
     m_date->setDateLook(DateLook::forLanguage(LanguageID()));
     m_sessionGiven = true;
     retranslate();

@@ -65,13 +65,13 @@ Currency parseAmount(const QString& stored)
 
 // --- Private --------------------------------------------------------------------------
 
-double GLControl::Private::option(const QString& alias, OptionScope scope) const
+double GLControl::Private::option(const QString& alias) const
 {
     DataObject* data = q->dataObject();
     if (!data)
         return 0;
     try {
-        return data->optionNumber(alias, scope, scope == OptionScope::User ? QString::number(data->userId()) : QString());
+        return data->effectiveNumber(alias);
     } catch (const DbError&) {
         return 0;  // an option that cannot be read keeps its default
     }
@@ -820,7 +820,7 @@ bool GLControl::isGLZero2(bool ForceActionControl)
     SumColGrid1();
     if (d->sumDebit != Currency() || d->sumCredit != Currency())
         return false;
-    const int option = qRound(d->option(QStringLiteral("GLZeroOption"), OptionScope::User));
+    const int option = qRound(d->option(QStringLiteral("GLZeroOption")));
     if (option == 1) {
         if (ForceActionControl)
             setGLMethod(0);

@@ -40,9 +40,10 @@ class GLControl::Private {
 public:
     explicit Private(GLControl* q) : q(q) {}
 
-    // Every option of the panel is read here, so that where options come from can change
-    // in one place. Company options unless `scope` says otherwise; 0 without a data object.
-    double option(const QString& alias, OptionScope scope = OptionScope::Company) const;
+    // Every option of the panel is read here: the value in force for the session (the
+    // user's, the workstation's, the branch's, the company's, else the default); 0 without a
+    // data object.
+    double option(const QString& alias) const;
 
     // Grid access by field name and the amount cache behind the totals.
     int column(const char* field) const;
