@@ -1,4 +1,5 @@
 #include "accounting/GLControl_p.h"
+#include "database/DataObject.h"
 
 #include "database/ListService.h"
 #include "database/SessionServices.h"
@@ -100,11 +101,6 @@ bool GLControl::Private::isLive(int row) const
     return !grid->model()->rowEdit(row - 1).deleted;
 }
 
-QString GLControl::Private::dataConnectionString() const
-{
-    return q->DataConnectionString();
-}
-
 int GLControl::Private::lineForNew()
 {
     const int rows = grid->Rows();
@@ -131,7 +127,7 @@ bool GLControl::Private::lookupAccount(const QString& code, QString& name, QStri
 {
     try {
         Connection data;
-        data.open(dataConnectionString());
+        data.open(q->DataConnectionString());
         Recordset rs;
         rs.open(Sql("SELECT TACCName, TACCName2 FROM QD8TACChart WHERE TACCCode=") + quoted(code)
                 + " AND TACCLevel >= 2 AND TACCISControl=0",
@@ -171,7 +167,7 @@ void GLControl::Private::pickIntoCell()
     request.widthList = QStringLiteral("1500,4000");
     request.typeList = QStringLiteral("0,0");
     request.source = QLatin1String(spec.table) + QStringLiteral(" WHERE ") + QLatin1String(spec.condition) + QStringLiteral(" ORDER BY ") + key;
-    request.connectionString = dataConnectionString();
+    request.connectionString = q->DataConnectionString();
     const QString picked = SessionServices::listService().PickFromList(request);
     if (picked.isEmpty())
         return;
@@ -194,7 +190,7 @@ void GLControl::Private::pickBook()
     request.widthList = QStringLiteral("1500,4000");
     request.typeList = QStringLiteral("0,0");
     request.source = QStringLiteral("QD8TGLBook WHERE TGLBFlag1=1 ORDER BY TGLBCode");
-    request.connectionString = dataConnectionString();
+    request.connectionString = q->DataConnectionString();
     const QString picked = SessionServices::listService().PickFromList(request);
     if (!picked.isEmpty())
         q->setGLBook(picked);
@@ -244,6 +240,13 @@ void GLControl::Private::retranslate()
     descriptionCaption->setText(q->bilingual("คำอธิบาย", "Description"));
     active->setText(q->bilingual("ยืนยันรายการ", "Confirmed"));
     saveZero->setText(q->bilingual("บันทึกรายการยอดเป็น 0", "Save zero lines"));
+    // Screen readers name each field by its caption.
+    book->setAccessibleName(bookCaption->text());
+    docNo->setAccessibleName(docCaption->text());
+    description->setAccessibleName(descriptionCaption->text());
+    active->setAccessibleName(active->text());
+    saveZero->setAccessibleName(saveZero->text());
+    method->setAccessibleName(q->bilingual("วิธีบันทึกบัญชี", "Posting method"));
     const int index = method->currentIndex();
     method->clear();
     method->addItems({q->bilingual("ไม่บันทึกบัญชี", "No voucher"), q->bilingual("บันทึกบัญชีเอง", "Keyed lines"),
@@ -278,7 +281,7 @@ QString GLControl::Private::closedPeriodProblem(const QDate& date) const
         return {};
     try {
         Connection data;
-        data.open(dataConnectionString());
+        data.open(q->DataConnectionString());
         Recordset rs;
         rs.open(Sql("SELECT TACYClosed FROM QD8TACYear WHERE TACYID=") + qint64(date.year()) + " AND TACYClosed=1", data);
         if (!rs.eof())
@@ -410,7 +413,6 @@ void GLControl::SetFirst(QWidget* iParentObj, std::shared_ptr<DataObject> iDataO
 {
     HostedControl::SetFirst(std::move(iDataObj), std::move(iAppObj), std::move(iClientObj));
     takeSessionFromDataObject();
-    d->parentObj = iParentObj;
     if (iParentObj)
         SetParentForm(iParentObj);
     d->formatGroup = iFormatGroupAlias;

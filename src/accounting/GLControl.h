@@ -83,6 +83,8 @@ public:
     void setFormatGroupAlias(const QString& alias);
     QString InputSource() const;
     void setInputSource(const QString& source);
+    // Kept for the host (the document forms decide what a fully automatic voucher means);
+    // the panel itself does not act on it.
     bool FullAuto() const;
     void setFullAuto(bool fullAuto);
     QString RUNMODE() const;

@@ -2,6 +2,7 @@
 // format, allocation, and the save.
 #include "accounting/GLAmounts_p.h"
 #include "accounting/GLControl_p.h"
+#include "database/DataObject.h"
 
 #include "foundation/Connection.h"
 #include "foundation/DbError.h"

@@ -1,11 +1,9 @@
 #pragma once
 
 #include "accounting/GLControl.h"
-#include "database/DataObject.h"
 
 #include <QDateTime>
 #include <QHash>
-#include <QPointer>
 #include <QVariant>
 
 class QCheckBox;
@@ -15,8 +13,6 @@ class QLineEdit;
 class QToolBar;
 
 namespace qd8 {
-
-class Recordset;
 
 // A grid column of the voucher lines: the QD8TGLTransSub field it holds, its captions and,
 // for a code column, the master table its F2 pick list reads.
@@ -58,7 +54,6 @@ public:
     // Account name (both languages) from the chart; false for an unknown or control account.
     bool lookupAccount(const QString& code, QString& name, QString& name2) const;
     void fillAccountName(int row);
-    QString dataConnectionString() const;
     void pickIntoCell();
     void pickBook();
     // F9: the amount that balances the voucher into the current amount cell.
@@ -97,7 +92,6 @@ public:
     QLabel* sumCreditLabel = nullptr;
     QLabel* balanceLabel = nullptr;
 
-    QPointer<QWidget> parentObj;
     Currency x[20];
     bool inputReady = false;
     QString formatGroup;
