@@ -156,48 +156,7 @@ OptionEditor::OptionEditor(const Scope& scope, QWidget* parent)
     connect(d->grid, &GridEditor::KeyDown, this, [this](int& keyCode, int) {
         if (keyCode == 113 && d->runMode == QLatin1String("EDIT")) {
             keyCode = 0;
-            const int row = d->grid->Row();
-            if (row < 1 || row > d->rows.size() || d->grid->TextMatrix(row, ColEdit) == QLatin1String("0"))
-                return;
-            const OptionRow& option = d->rows[row - 1];
-            const QString type = d->grid->TextMatrix(row, ColTypeWord);
-            const QString current = d->grid->model()->storedText(row - 1, ColValue - 1);
-            const QString title = d->grid->TextMatrix(row, ColAlias);
-            QString picked;
-            bool chosen = false;
-            try {
-                if (!option.runQuickForm.isEmpty()) {
-                    picked = QuickFormPick(option.runQuickForm, ConnectionString(), DataConnectionString());
-                    chosen = !picked.isEmpty();
-                } else if (type == QLatin1String("LABELLIST")) {
-                    const QList<GridLabel> labels = GridColumn::parseLabelList(option.labelList);
-                    QStringList entries;
-                    int at = -1;
-                    for (const GridLabel& label : labels) {
-                        if (label.code == current)
-                            at = int(entries.size());
-                        entries << label.label;
-                    }
-                    const int index = Services::picker().choose(title, entries, at);
-                    chosen = index >= 0 && index < labels.size();
-                    if (chosen)
-                        picked = labels[index].code;
-                } else if (type == QLatin1String("COLOR")) {
-                    const int colour = Services::picker().pickColor(current.isEmpty() ? -1 : int(toNumber(current)), title);
-                    chosen = colour >= 0;
-                    picked = QString::number(colour);
-                } else if (type == QLatin1String("DATE")) {
-                    const QDate day = Services::picker().pickDate(QDate::fromString(current, Qt::ISODate),
-                        d->grid->mapToGlobal(QPoint(0, 0)), DbSessionFunctions::userDateLook(UserID(), LanguageID(), DataConnectionString()));
-                    chosen = day.isValid();
-                    picked = day.toString(Qt::ISODate);
-                }
-            } catch (const DbError& error) {
-                Services::messages().critical(title, error.userText(LanguageID()));
-                return;
-            }
-            if (chosen)
-                d->grid->SetValue(row, ColValue, picked);
+            pickValue();
         }
     });
     const auto valueChanged = [this](int row, int col) {
@@ -607,6 +566,49 @@ void OptionEditor::buttonClick(const QString& key)
             return;
         cmdCancel_Click();
     }
+}
+
+void OptionEditor::pickValue()
+{
+    const int row = d->grid->Row();
+    if (row < 1 || row > d->rows.size() || d->grid->TextMatrix(row, ColEdit) == QLatin1String("0"))
+        return;
+    const OptionRow& option = d->rows[row - 1];
+    const QString type = d->grid->TextMatrix(row, ColTypeWord);
+    const QString current = d->grid->model()->storedText(row - 1, ColValue - 1);
+    const QString title = d->grid->TextMatrix(row, ColAlias);
+    QString picked;
+    try {
+        if (!option.runQuickForm.isEmpty()) {
+            picked = QuickFormPick(option.runQuickForm, ConnectionString(), DataConnectionString());
+        } else if (type == QLatin1String("LABELLIST")) {
+            const QList<GridLabel> labels = GridColumn::parseLabelList(option.labelList);
+            QStringList entries;
+            int at = -1;
+            for (const GridLabel& label : labels) {
+                if (label.code == current)
+                    at = int(entries.size());
+                entries << label.label;
+            }
+            const int index = Services::picker().choose(title, entries, at);
+            if (index >= 0 && index < labels.size())
+                picked = labels[index].code;
+        } else if (type == QLatin1String("COLOR")) {
+            const int colour = Services::picker().pickColor(current.isEmpty() ? -1 : int(toNumber(current)), title);
+            if (colour >= 0)
+                picked = QString::number(colour);
+        } else if (type == QLatin1String("DATE")) {
+            const QDate day = Services::picker().pickDate(QDate::fromString(current, Qt::ISODate), d->grid->mapToGlobal(QPoint(0, 0)),
+                DbSessionFunctions::userDateLook(UserID(), LanguageID(), DataConnectionString()));
+            picked = day.toString(Qt::ISODate);
+        }
+    } catch (const DbError& error) {
+        Services::messages().critical(title, error.userText(LanguageID()));
+        return;
+    }
+    // Nothing picked (cancelled) leaves the value as it was.
+    if (!picked.isEmpty())
+        d->grid->SetValue(row, ColValue, picked);
 }
 
 void OptionEditor::cmdCancel_Click()
