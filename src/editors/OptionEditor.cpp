@@ -341,14 +341,8 @@ void OptionEditor::changeEvent(QEvent* event)
 
 void OptionEditor::retranslate()
 {
-    static const struct {
-        const char* key;
-        const char* thai;
-        const char* english;
-    } captions[] = {{"Edit", "แก้ไข", "Edit"}, {"Update", "บันทึก", "Update"}, {"Cancel", "ยกเลิก", "Cancel"},
-        {"Default", "ค่าเริ่มต้น", "Default"}, {"Close", "ปิด", "Close"}};
-    for (const auto& caption : captions)
-        button(QString::fromLatin1(caption.key))->setText(bilingual(caption.thai, caption.english));
+    for (const QString& key : ButtonKeys)
+        button(key)->setText(editorButtonText(key, LanguageID()));
     d->selectLabel->setText(d->selectCaption.isEmpty() ? bilingual("กลุ่มตัวเลือก", "Option Group") : d->selectCaption);
     d->selectButton->setToolTip(bilingual("เลือกกลุ่มตัวเลือก (F2)", "Select Group (F2)"));
 }
