@@ -470,7 +470,12 @@ void OptionEditor::FillData()
             values << QVariantList{alias, column(Name), option.defaultValue, typeCaption(type, pickForm, LanguageID()), value, column(Mode), type,
                 column(Decimal), flag(CanBlank), edit, numberOf(type, value),
                 fromText(option.stored ? std::optional(scope()) : std::nullopt, value != option.defaultValue)};
-            cells << Cell{cellType(type, pickForm), int(toNumber(column(Decimal))), option.labelList, edit != QLatin1String("0")};
+            // Yes/no values read "Yes" and "No", picked like a label list.
+            const bool yesNo = !pickForm && (type == QLatin1String("YESNO") || type == QLatin1String("CHECK"));
+            cells << Cell{yesNo ? QStringLiteral("LABELLIST") : cellType(type, pickForm), int(toNumber(column(Decimal))),
+                yesNo ? QStringLiteral("0;No,1;Yes") : option.labelList, edit != QLatin1String("0")};
+            if (yesNo)
+                option.labelList = cells.last().labelList;
             d->rows << option;
         }
         d->grid->setLanguageID(LanguageID());
@@ -575,7 +580,7 @@ void OptionEditor::pickValue()
     try {
         if (!option.runQuickForm.isEmpty()) {
             picked = QuickFormPick(option.runQuickForm, ConnectionString(), DataConnectionString());
-        } else if (type == QLatin1String("LABELLIST")) {
+        } else if (type == QLatin1String("LABELLIST") || !option.labelList.isEmpty()) {
             const QList<GridLabel> labels = GridColumn::parseLabelList(option.labelList);
             QStringList entries;
             int at = -1;
