@@ -62,6 +62,12 @@ double numberOf(const QString& type, const QString& stored)
     return toNumber(stored);
 }
 
+// No module, or the back-office and management modules: the company options of every module.
+bool everyModule(const QString& module)
+{
+    return module.isEmpty() || module == QLatin1String("BACKOFFICE") || module == QLatin1String("MIS");
+}
+
 // The grid type of a value cell: an option with a pick form holds the picked key.
 QString cellType(const QString& type, bool pickForm)
 {
@@ -317,8 +323,7 @@ QString OptionEditor::groupSource() const
 {
     const QString& group = d->optionGroup;
     if (!d->scope.showColumn) {
-        // The back-office and management modules offer the groups of every module.
-        if (group.isEmpty() || group == QLatin1String("BACKOFFICE") || group == QLatin1String("MIS"))
+        if (everyModule(group))
             return QStringLiteral("QD8VOptionGroup WHERE TOpGFlag1=1 AND TCmGFlag1=1 ORDER BY TOpGSort,TOpGTCmGAlias");
         return QStringLiteral("QD8VOptionGroup WHERE TOpGFlag1=1 AND TCmGFlag1=1 AND TOpGTCmGAlias='") + group
             + QStringLiteral("' ORDER BY TOpGSort,TOpGTCmGAlias");
@@ -352,13 +357,25 @@ void OptionEditor::Refresh()
     d->groups.clear();
     if (ConnectionString().isEmpty())
         return;
+    // The company editor reads the module's options with their groups from the combined view,
+    // the others the groups offered to their scope.
+    const bool company = scope() == OptionScope::Company;
+    const QString& module = d->optionGroup;
+    const Sql sql = !company   ? Sql("SELECT * FROM ") + groupSource()
+        : everyModule(module)  ? Sql("SELECT * FROM QD8VOption ORDER BY TOptSort,TOptAlias")
+                               : Sql("SELECT * FROM QD8VOption WHERE TCmGAlias=") + quoted(module) + " ORDER BY TOptSort,TOptAlias";
+    const QString key = company ? QStringLiteral("TOptTOpGAlias") : QStringLiteral("TOpGAlias");
     try {
         Connection app;
         app.open(ConnectionString());
         Recordset rs;
-        rs.open(Sql("SELECT * FROM ") + groupSource(), app);
+        rs.open(sql, app);
+        QSet<QString> listed;
         for (; !rs.eof(); rs.moveNext())
-            d->groups.append({rs.text(QStringLiteral("TOpGAlias")), rs.text(QStringLiteral("TOpGName") + nameSuffix())});
+            if (const QString group = rs.text(key); !group.isEmpty() && !listed.contains(group)) {
+                listed.insert(group);
+                d->groups.append({group, rs.text(QStringLiteral("TOpGName") + nameSuffix())});
+            }
     } catch (const DbError&) {
         // A list that cannot be read stays empty, as the suite's lists do.
     }

@@ -116,6 +116,12 @@ TEST_P(OptionEditorsTest, EachScopeSendsItsOwnStatementsAndStoresUnderItsKey)
     auto branch = editor("branch");
     branch->cmdWhereShow("SOOPTION");
     EXPECT_GT(rowOf(*branch, "SOBranchOldDiscount"), 0);
+    // The company editor finds the module's groups through its options.
+    auto company = editor("company");
+    SqlTrace::Recorder refresh;
+    company->Refresh();
+    EXPECT_EQ(refresh.composed().value(0), "SELECT * FROM QD8VOption WHERE TCmGAlias='SO' ORDER BY TOptSort,TOptAlias");
+    EXPECT_EQ(company->groups().value(0).first, "SOOPTION");
     runOnApp({"INSERT INTO QD8TOption (TOptAlias, TOptTOpGAlias, TOptName, TOptName2, TOptFieldType) VALUES ('JOBCodeCaption', 'NONE', 'ชื่อรหัสงาน', 'Job code caption', 'TEXT')"});
     for (const char* module : {"JOB", "SERVICE", "SO"}) {
         auto company = editor("company", module);
