@@ -76,8 +76,6 @@ QString cellType(const QString& type, bool pickForm)
     return type == QLatin1String("AUTONUMBER") ? QStringLiteral("NUMBER") : type;
 }
 
-} // namespace
-
 // One option row beside what the grid shows.
 struct OptionRow {
     QString labelList;
@@ -86,6 +84,8 @@ struct OptionRow {
     bool stored = false;  // this scope holds a value
     bool reset = false;   // the save removes it
 };
+
+} // namespace
 
 class OptionEditor::Private {
 public:
