@@ -9,6 +9,7 @@
 #include "database/SessionServices.h"
 #include "documents/DucumentList.h"
 #include "documents/MasterList.h"
+#include "editors/CustomData.h"
 #include "editors/HostOption.h"
 #include "foundation/Connection.h"
 #include "foundation/ConnectionString.h"
@@ -432,6 +433,9 @@ void WorkbenchWindow::loadControl(HostedControl& control, const Command& command
         host->SetLast2(control.session().FolderPathName, command.alias, QString::number(m_session.userId), m_session.dataConnectionString,
             m_session.appConnectionString, QSysInfo::machineHostName(), m_session.appPath + QStringLiteral("/QD8STARTUP.INI"));
     control.Refresh();
+    // The code lists open on the first list offered.
+    if (auto* lists = qobject_cast<CustomData*>(&control); lists && lists->DefaultFormAlias().isEmpty() && !lists->groupForms().isEmpty())
+        lists->setDefaultFormAlias(lists->groupForms().first().first);
     // Editors load their rows after listing what they offer.
     if (control.metaObject()->indexOfSlot("FillData()") >= 0)
         QMetaObject::invokeMethod(&control, "FillData");

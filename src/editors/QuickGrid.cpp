@@ -134,17 +134,8 @@ void QuickGrid::changeEvent(QEvent* event)
 
 void QuickGrid::retranslate()
 {
-    static const struct {
-        const char* key;
-        const char* thai;
-        const char* english;
-    } captions[] = {{"Enter", "ตกลง", "Enter"}, {"Help", "ช่วยเหลือ", "Help"}, {"Add", "เพิ่ม", "Add"}, {"Delete", "ลบ", "Delete"},
-        {"Filter", "แสดงเฉพาะ", "Filter"}, {"Copy", "คัดลอก", "Copy"}, {"Edit", "แก้ไข", "Edit"}, {"Update", "บันทึก", "Update"},
-        {"Cancel", "ยกเลิก", "Cancel"}, {"Close", "ปิด", "Close"}, {"UnPass", "ไม่ผ่าน", "Unpass"}, {"Pass", "ผ่าน", "Pass"},
-        {"Check", "ตรวจสอบ", "Check"}, {"Print", "พิมพ์", "Print"}};
-    for (const auto& caption : captions)
-        if (QAction* action = button(QString::fromLatin1(caption.key)))
-            action->setText(bilingual(caption.thai, caption.english));
+    for (const QString& key : ButtonKeys)
+        button(key)->setText(editorButtonText(key, LanguageID()));
     m_selectLabel->setText(m_selectCaption.isEmpty() ? bilingual("กลุ่มข้อมูล", "Group Code") : m_selectCaption);
     m_selectButton->setToolTip(bilingual("เลือกกลุ่มข้อมูล (F2)", "Select Group Code (F2)"));
     m_filter->setPlaceholderText(bilingual("แสดงเฉพาะรายการที่มีคำนี้", "Show only rows holding"));
