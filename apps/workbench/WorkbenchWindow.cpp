@@ -1,6 +1,7 @@
 #include "WorkbenchWindow.h"
 
 #include "ListPrinter.h"
+#include "LoginDialog.h"
 #include "database/AppObject.h"
 #include "database/ClientObject.h"
 #include "database/DataObject.h"
@@ -143,14 +144,19 @@ void WorkbenchWindow::buildStatusBar()
     statusBar()->addPermanentWidget(m_userLabel);
     statusBar()->addPermanentWidget(m_companyLabel);
     statusBar()->addPermanentWidget(m_language);
-    m_logOut = new QAction(this);
-    m_logOut->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L));
-    connect(m_logOut, &QAction::triggered, this, &WorkbenchWindow::logOut);
-    addAction(m_logOut);
-    auto* logOutButton = new QToolButton(this);
-    logOutButton->setObjectName(QStringLiteral("btnLogOut"));
-    logOutButton->setDefaultAction(m_logOut);
-    statusBar()->addPermanentWidget(logOutButton);
+    const auto command = [this](const char* name, QKeyCombination key, bool (WorkbenchWindow::*slot)()) {
+        auto* action = new QAction(this);
+        action->setShortcut(QKeySequence(key));
+        connect(action, &QAction::triggered, this, slot);
+        addAction(action);
+        auto* button = new QToolButton(this);
+        button->setObjectName(QLatin1String(name));
+        button->setDefaultAction(action);
+        statusBar()->addPermanentWidget(button);
+        return action;
+    };
+    m_switchCompany = command("btnSwitchCompany", Qt::CTRL | Qt::SHIFT | Qt::Key_O, &WorkbenchWindow::switchCompany);
+    m_logOut = command("btnLogOut", Qt::CTRL | Qt::SHIFT | Qt::Key_L, &WorkbenchWindow::logOut);
     updateStatusLabels();
 }
 
@@ -162,9 +168,11 @@ void WorkbenchWindow::updateStatusLabels()
             name = user.loginName + QStringLiteral(" — ") + user.name;
     m_userLabel->setText(text("ผู้ใช้: ", "User: ") + name);
     m_companyLabel->setText(text("ฐานข้อมูล: ", "Company: ") + m_session.companyName());
+    m_switchCompany->setText(text("เปลี่ยนบริษัท", "Switch company"));
     m_logOut->setText(text("ออกจากระบบ", "Log out"));
-    m_logOut->setToolTip(m_logOut->text() + QStringLiteral(" (") + m_logOut->shortcut().toString(QKeySequence::NativeText)
-        + QLatin1Char(')'));
+    for (QAction* action : {m_switchCompany, m_logOut})
+        action->setToolTip(action->text() + QStringLiteral(" (") + action->shortcut().toString(QKeySequence::NativeText)
+            + QLatin1Char(')'));
 }
 
 void WorkbenchWindow::fillModules(const QString& module)
@@ -534,6 +542,22 @@ bool WorkbenchWindow::logOut()
     if (!closeAllForms())
         return false;
     m_loggedOut = true;
+    close();
+    return true;
+}
+
+bool WorkbenchWindow::switchCompany()
+{
+    if (!closeAllForms())
+        return false;
+    WorkbenchSession next = m_session;
+    LoginDialog login(next, this);
+    // The command is for going elsewhere: the first other company is offered.
+    if (login.companyBox()->count() > 1)
+        login.companyBox()->setCurrentIndex(1);
+    if (login.exec() != QDialog::Accepted)
+        return false;
+    m_nextCompany = next;
     close();
     return true;
 }

@@ -3,6 +3,7 @@
 
 #include "DocumentForm.h"
 #include "ListPrinter.h"
+#include "LoginDialog.h"
 #include "TableListForm.h"
 #include "WorkbenchForms.h"
 #include "WorkbenchSession.h"
@@ -13,6 +14,7 @@
 #include "editors/QuickGrid.h"
 #include "widgets/DataView.h"
 #include "foundation/Connection.h"
+#include "foundation/ConnectionString.h"
 #include "foundation/Recordset.h"
 #include "navigation/DocumentToolBar.h"
 #include "navigation/NUVRibbon.h"
@@ -26,6 +28,8 @@
 #include <QApplication>
 #include <QLabel>
 #include <QComboBox>
+#include <QDir>
+#include <QTimer>
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
@@ -318,6 +322,64 @@ TEST_P(WorkbenchTest, ClosingATabOrTheWindowOrLoggingOutAsksBeforeUnsavedWorkIsD
         EXPECT_EQ(scriptedMessages().saveLanguages, QList<int>(t.answer.size(), language));
         Connection c;
         c.open(dataConnectionString());
+        Recordset rs;
+        rs.open("SELECT TDivName2 FROM QD8TDivision WHERE TDivCode='D01'", c);
+        EXPECT_EQ(rs.text("TDivName2"), t.stored);
+    }
+}
+
+TEST_P(WorkbenchTest, SwitchingCompanyAsksAboutUnsavedWorkThenLogsInToTheChosenCompany)
+{
+    // On SQLite two companies side by side in folders; PostgreSQL offers its own company only.
+    QTemporaryDir root;
+    QString other = session.companyName();
+    if (engine() == Engine::SQLite) {
+        for (const QString& name : {QStringLiteral("siam"), QStringLiteral("north")}) {
+            QDir(root.path()).mkdir(name);
+            for (const QString& source : {appConnectionString(), dataConnectionString()}) {
+                Connection c;
+                c.open(source);
+                c.execute("VACUUM INTO " + quoted(QDir(root.filePath(name)).filePath(QFileInfo(ConnectionString::parse(source).sqliteFile()).fileName())));
+            }
+        }
+        session = WorkbenchSession::inFolder(root.filePath("siam"));
+        other = "north";
+    }
+    using Answer = MessageService::SaveAnswer;
+    const struct {
+        Answer answer;
+        const char* stored;
+    } cases[] = {{Answer::Cancel, "Accounting & Finance"}, {Answer::Discard, "Accounting & Finance"}, {Answer::Save, "Finance"}};
+    for (const auto& t : cases) {
+        scriptedMessages().reset();
+        auto window = open("JOHN", "HR");
+        window->launch("DIVISION");
+        auto* editor = qobject_cast<QuickGrid*>(window->tabs()->currentWidget());
+        ASSERT_TRUE(editor);
+        editor->buttonClick("Edit");
+        editor->grid()->SetValue(1, 3, "Finance");
+        scriptedMessages().saveAnswers = {t.answer};
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        QString offered;
+        QTimer::singleShot(0, window.get(), [&] {
+            if (auto* login = qobject_cast<LoginDialog*>(QApplication::activeModalWidget())) {
+                offered = login->companyBox()->currentText();
+                login->passwordBox()->setText("1234");
+                login->accept();
+            }
+        });
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier);
+        const bool switched = t.answer != Answer::Cancel;
+        EXPECT_EQ(window->tabs()->count(), switched ? 0 : 1);
+        EXPECT_EQ(window->isVisible(), !switched);
+        EXPECT_EQ(offered, switched ? other : QString());
+        ASSERT_EQ(window->nextCompany().has_value(), switched);
+        if (switched)
+            EXPECT_EQ(window->nextCompany()->companyName() + "|" + window->nextCompany()->loginName, other + "|JOHN");
+        EXPECT_TRUE(window->findChild<QToolButton*>("btnSwitchCompany")->toolTip().contains("Ctrl+Shift+O"));
+        Connection c;
+        c.open(session.dataConnectionString);
         Recordset rs;
         rs.open("SELECT TDivName2 FROM QD8TDivision WHERE TDivCode='D01'", c);
         EXPECT_EQ(rs.text("TDivName2"), t.stored);
