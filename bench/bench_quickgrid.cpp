@@ -30,7 +30,7 @@ public:
     void information(const QString&, const QString&) override {}
     void critical(const QString& title, const QString& text) override { qFatal("%s: %s", qPrintable(title), qPrintable(text)); }
     bool question(const QString&, const QString&) override { return true; }
-    SaveAnswer askToSave(const QString&, const QString&, int) override { return SaveAnswer::Save; }
+    SaveAnswer askToSave(const QString&, const QString&) override { return SaveAnswer::Save; }
 };
 
 void fill(const BenchDatabase& db)
