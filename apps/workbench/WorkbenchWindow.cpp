@@ -92,6 +92,7 @@ WorkbenchWindow::WorkbenchWindow(const WorkbenchSession& session, const QString&
     centreLayout->setContentsMargins(0, 0, 0, 0);
     // On a small screen the tool bar scrolls sideways instead of widening the window.
     auto* toolBarRoom = new QScrollArea(centre);
+    toolBarRoom->setFocusPolicy(Qt::NoFocus);  // Tab goes to its buttons
     toolBarRoom->setObjectName(QStringLiteral("toolBarRoom"));
     toolBarRoom->setFrameShape(QFrame::NoFrame);
     toolBarRoom->setWidgetResizable(true);
@@ -168,6 +169,9 @@ void WorkbenchWindow::updateStatusLabels()
             name = user.loginName + QStringLiteral(" — ") + user.name;
     m_userLabel->setText(text("ผู้ใช้: ", "User: ") + name);
     m_companyLabel->setText(text("ฐานข้อมูล: ", "Company: ") + m_session.companyName());
+    m_modules->setAccessibleName(text("โมดูล", "Module"));
+    m_language->setAccessibleName(text("ภาษา", "Language"));
+    m_tabs->setAccessibleName(text("แบบฟอร์มที่เปิดอยู่", "Open forms"));
     m_switchCompany->setText(text("เปลี่ยนบริษัท", "Switch company"));
     m_logOut->setText(text("ออกจากระบบ", "Log out"));
     for (QAction* action : {m_switchCompany, m_logOut})
@@ -189,7 +193,7 @@ void WorkbenchWindow::fillModules(const QString& module)
             m_modules->addItem(rs.text(QStringLiteral("TCmGName") + nameSuffix(m_session.languageId)),
                 rs.text(QStringLiteral("TCmGAlias")));
     } catch (const DbError& error) {
-        showStatus(error.message());
+        showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
     }
     // Without a module asked for, the first one: all three command sets have entries.
     const int index = module.isEmpty() ? -1 : m_modules->findData(module);
@@ -244,7 +248,7 @@ void WorkbenchWindow::refreshLaunchers()
             launcher->Refresh();
         }
     } catch (const DbError& error) {
-        showStatus(error.message());
+        showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
     }
     onThemeChange(m_ribbon->ribbon()->theme(), m_ribbon->ribbon());
 }
@@ -264,7 +268,7 @@ void WorkbenchWindow::setLanguage(int languageId)
     try {
         m_session.setLanguage(languageId, true);
     } catch (const DbError& error) {
-        showStatus(error.message());
+        showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
         return;
     }
     {
@@ -305,7 +309,7 @@ void WorkbenchWindow::setLanguage(int languageId)
                 m_tabs->setTabText(i, caption);
         }
     } catch (const DbError& error) {
-        showStatus(error.message());
+        showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
         return;
     }
     showStatus(text("ภาษาไทย", "English"));
@@ -366,7 +370,7 @@ void WorkbenchWindow::launch(const QString& shellFunction)
                 return;
             }
         } catch (const DbError& error) {
-            showStatus(error.message());
+            showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
             return;
         }
     }
@@ -406,7 +410,7 @@ void WorkbenchWindow::openForm(const QString& formName, const Command& command)
             loadControl(*control, command);
     } catch (const DbError& error) {
         delete form;
-        showStatus(error.message());
+        showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
         return;
     } catch (const std::exception& error) {
         delete form;
@@ -453,7 +457,7 @@ QWidget* WorkbenchWindow::add(const QString& name)
             setUpControl(*control, alias, command.group);
     } catch (const DbError& error) {
         delete form;
-        showStatus(error.message());
+        showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
         return nullptr;
     }
     connectEvents(form);
@@ -610,7 +614,7 @@ void WorkbenchWindow::onDeleteAction(const QString& selectRowData)
         if ((*deleter)(selectRowData, m_session))
             showStatus(text("ลบเอกสาร %1 แล้ว", "Deleted the document %1").arg(selectRowData));
     } catch (const DbError& error) {
-        Services::messages().critical(text("ลบเอกสาร", "Delete"), error.message());
+        Services::messages().critical(text("ลบเอกสาร", "Delete"), error.report(m_session.languageId));
     }
     if (auto* control = qobject_cast<HostedControl*>(form))
         control->Refresh();
@@ -659,7 +663,7 @@ QStringList WorkbenchWindow::saveScreenshots(const QString& folder)
             if (isQuickForm(rs.text(QStringLiteral("TCmdAlias"))))
                 names << rs.text(QStringLiteral("TCmdAlias"));
     } catch (const DbError& error) {
-        showStatus(error.message());
+        showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
     }
     for (const QString& name : names) {
         launch(name);

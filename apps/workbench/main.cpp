@@ -103,7 +103,7 @@ int main(int argc, char* argv[])
         if (!lang.isEmpty())
             session.setLanguage(lang == QLatin1String("en") ? 1 : 0, true);
     } catch (const DbError& error) {
-        QTextStream(stderr) << "qd8-workbench: " << error.message() << '\n';
+        QTextStream(stderr) << "qd8-workbench: " << error.report(1, QStringLiteral(": ")) << '\n';
         return 1;
     } catch (const std::exception& error) {
         QTextStream(stderr) << "qd8-workbench: " << error.what() << '\n';

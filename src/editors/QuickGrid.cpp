@@ -148,6 +148,8 @@ void QuickGrid::retranslate()
     m_selectLabel->setText(m_selectCaption.isEmpty() ? bilingual("กลุ่มข้อมูล", "Group Code") : m_selectCaption);
     m_selectButton->setToolTip(bilingual("เลือกกลุ่มข้อมูล (F2)", "Select Group Code (F2)"));
     m_filter->setPlaceholderText(bilingual("แสดงเฉพาะรายการที่มีคำนี้", "Show only rows holding"));
+    m_selector->setAccessibleName(m_selectLabel->text());
+    m_filter->setAccessibleName(m_filter->placeholderText());
 }
 
 QAction* QuickGrid::button(const QString& key) const
@@ -180,7 +182,7 @@ void QuickGrid::Refresh()
         for (; !rs.eof(); rs.moveNext())
             m_groupForms.append({rs.text(QStringLiteral("TQFmAlias")), rs.text(QStringLiteral("TQFmCaption") + nameSuffix())});
     } catch (const DbError& error) {
-        Services::messages().critical(bilingual("ฟอร์มข้อมูล", "Quick Form"), error.message());
+        Services::messages().critical(bilingual("ฟอร์มข้อมูล", "Quick Form"), error.report(LanguageID()));
     }
 }
 
@@ -199,7 +201,7 @@ void QuickGrid::chooseForm()
             QStringLiteral("TQFmAlias,TQFmCaption") + nameSuffix(), QStringLiteral("ALIAS,Group Code"), QStringLiteral("0,3800"),
             QStringLiteral("0,0"), source, ConnectionString(), 0, 0, 0, 1, 0, 0);
     } catch (const DbError& error) {
-        Services::messages().critical(QStringLiteral("Select Group Code"), error.message());
+        Services::messages().critical(QStringLiteral("Select Group Code"), error.report(LanguageID()));
         return;
     }
     if (!alias.isEmpty())
@@ -285,7 +287,7 @@ void QuickGrid::FillData()
         m_grid->setRefuseDelete(!m_form.canDelete || m_form.readOnly);
         loadRows(data);
     } catch (const DbError& error) {
-        Services::messages().critical(m_form.caption.isEmpty() ? bilingual("ฟอร์มข้อมูล", "Quick Form") : m_form.caption, error.message());
+        Services::messages().critical(m_form.caption.isEmpty() ? bilingual("ฟอร์มข้อมูล", "Quick Form") : m_form.caption, error.report(LanguageID()));
         enterMode(QStringLiteral("BLANK"));
         return;
     }
@@ -542,7 +544,7 @@ QString QuickGrid::SelectQuickForm3(const QString& QuickFormAlias, int HF, const
         return SessionServices::listService().PickFromList(
             quickFormPickQuery(form, LanguageID(), employeeScope(QuickFormAlias, HF), CustomFilter, DataConnectionString()));
     } catch (const DbError& error) {
-        Services::messages().critical(QuickFormAlias, error.message());
+        Services::messages().critical(QuickFormAlias, error.report(LanguageID()));
         return {};
     }
 }
