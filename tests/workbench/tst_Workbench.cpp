@@ -38,6 +38,7 @@
 #include <QRegularExpression>
 #include <QTabWidget>
 #include <QTableWidget>
+#include <QHeaderView>
 #include <QTest>
 #include <QToolButton>
 
@@ -383,6 +384,32 @@ TEST_P(WorkbenchTest, SwitchingCompanyAsksAboutUnsavedWorkThenLogsInToTheChosenC
         Recordset rs;
         rs.open("SELECT TDivName2 FROM QD8TDivision WHERE TDivCode='D01'", c);
         EXPECT_EQ(rs.text("TDivName2"), t.stored);
+    }
+}
+
+TEST_P(WorkbenchTest, TheLoginHidesThePasswordTheModeIsAWordAndClippedTitlesShowWholeInTheirToolTips)
+{
+    LoginDialog login(session);
+    EXPECT_TRUE(login.passwordBox()->placeholderText().isEmpty());
+    EXPECT_EQ(login.passwordBox()->echoMode(), QLineEdit::Password);
+    auto window = open("SOMCHAI", "AR");
+    window->launch("ARINVOICE");
+    auto* invoices = qobject_cast<DucumentList*>(window->tabs()->currentWidget());
+    ASSERT_TRUE(invoices);
+    Q_EMIT invoices->dataView()->addRequested();
+    auto* mode = window->tabs()->currentWidget()->findChild<QLabel*>("mode");
+    ASSERT_TRUE(mode);
+    EXPECT_EQ(mode->frameShape(), QFrame::NoFrame);
+    EXPECT_FALSE(mode->autoFillBackground() || mode->focusPolicy() & Qt::TabFocus);
+    // Both kinds of grid: the list's rows and the quick form editor's.
+    window->launch("DIVISION");
+    auto* editor = qobject_cast<QuickGrid*>(window->tabs()->currentWidget());
+    ASSERT_TRUE(editor);
+    for (const QTableView* view : {invoices->dataView()->tableView(), editor->grid()->findChild<QTableView*>()}) {
+        ASSERT_TRUE(view);
+        EXPECT_EQ(view->horizontalHeader()->textElideMode(), Qt::ElideRight);
+        for (int c = 0; c < view->model()->columnCount(); ++c)
+            EXPECT_EQ(view->model()->headerData(c, Qt::Horizontal, Qt::ToolTipRole), view->model()->headerData(c, Qt::Horizontal));
     }
 }
 
