@@ -73,13 +73,9 @@ TEST(DefaultMessages, ButtonsSpeakTheSessionLanguageAndAnswerWhatWasClicked)
     using Answer = MessageService::SaveAnswer;
     QtMessageService messages;
     enum Kind { Information, Question, Save };
-    const struct {
-        int language;
-        Kind kind;
-        QStringList buttons;  // in the box's order, the default one first
-        const char* click;    // the button clicked; "" presses Escape
-        int answer;           // question: 1 Yes; save: the SaveAnswer
-    } cases[] = {
+    // The buttons in the box's order, the default one first; the one clicked ("" presses
+    // Escape); the answer (question: 1 Yes; save: the SaveAnswer).
+    const struct { int language; Kind kind; QStringList buttons; const char* click; int answer; } cases[] = {
         {0, Question, {"ไม่ใช่", "ใช่"}, "ไม่ใช่", 0},
         {1, Question, {"No", "Yes"}, "Yes", 1},
         {0, Information, {"ตกลง"}, "ตกลง", 0},
