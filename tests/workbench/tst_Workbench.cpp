@@ -558,8 +558,9 @@ TEST_P(WorkbenchTest, EveryCommandAndEveryRibbonButtonOpensSomethingOrSaysSometh
         const QString alias = rs.text("TCmdAlias");
         const qsizetype before = scriptedMessages().shown.size();
         answered(alias, [&] { window->launch(alias); });
-        if (scriptedMessages().shown.size() > before)  // a form of a later build: it says which command
+        if (scriptedMessages().shown.size() > before) {  // a form of a later build: it says which command
             EXPECT_TRUE(scriptedMessages().shown.last().text.contains(alias)) << scriptedMessages().shown.last().text.toStdString();
+        }
         while (window->tabs()->count() > 0)
             window->closeForm(window->tabs()->widget(0));
     }
