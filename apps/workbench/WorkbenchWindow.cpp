@@ -193,7 +193,7 @@ void WorkbenchWindow::fillModules(const QString& module)
             m_modules->addItem(rs.text(QStringLiteral("TCmGName") + nameSuffix(m_session.languageId)),
                 rs.text(QStringLiteral("TCmGAlias")));
     } catch (const DbError& error) {
-        showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
+        showStatus(error);
     }
     // Without a module asked for, the first one: all three command sets have entries.
     const int index = module.isEmpty() ? -1 : m_modules->findData(module);
@@ -248,7 +248,7 @@ void WorkbenchWindow::refreshLaunchers()
             launcher->Refresh();
         }
     } catch (const DbError& error) {
-        showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
+        showStatus(error);
     }
     onThemeChange(m_ribbon->ribbon()->theme(), m_ribbon->ribbon());
 }
@@ -268,7 +268,7 @@ void WorkbenchWindow::setLanguage(int languageId)
     try {
         m_session.setLanguage(languageId, true);
     } catch (const DbError& error) {
-        showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
+        showStatus(error);
         return;
     }
     {
@@ -309,7 +309,7 @@ void WorkbenchWindow::setLanguage(int languageId)
                 m_tabs->setTabText(i, caption);
         }
     } catch (const DbError& error) {
-        showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
+        showStatus(error);
         return;
     }
     showStatus(text("ภาษาไทย", "English"));
@@ -370,7 +370,7 @@ void WorkbenchWindow::launch(const QString& shellFunction)
                 return;
             }
         } catch (const DbError& error) {
-            showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
+            showStatus(error);
             return;
         }
     }
@@ -410,7 +410,7 @@ void WorkbenchWindow::openForm(const QString& formName, const Command& command)
             loadControl(*control, command);
     } catch (const DbError& error) {
         delete form;
-        showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
+        showStatus(error);
         return;
     } catch (const std::exception& error) {
         delete form;
@@ -457,7 +457,7 @@ QWidget* WorkbenchWindow::add(const QString& name)
             setUpControl(*control, alias, command.group);
     } catch (const DbError& error) {
         delete form;
-        showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
+        showStatus(error);
         return nullptr;
     }
     connectEvents(form);
@@ -629,6 +629,11 @@ void WorkbenchWindow::onThemeChange(int theme, QObject*)
                       .arg(t.background.name(), t.tabBar.name(), t.text.name()));
 }
 
+void WorkbenchWindow::showStatus(const DbError& error)
+{
+    showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
+}
+
 void WorkbenchWindow::showStatus(const QString& message)
 {
     m_status = message;
@@ -663,7 +668,7 @@ QStringList WorkbenchWindow::saveScreenshots(const QString& folder)
             if (isQuickForm(rs.text(QStringLiteral("TCmdAlias"))))
                 names << rs.text(QStringLiteral("TCmdAlias"));
     } catch (const DbError& error) {
-        showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
+        showStatus(error);
     }
     for (const QString& name : names) {
         launch(name);

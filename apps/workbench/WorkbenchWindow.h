@@ -18,6 +18,7 @@ class QTabWidget;
 namespace qd8 {
 
 class AppObject;
+class DbError;
 class ClientObject;
 class DataObject;
 class HostedControl;
@@ -125,6 +126,8 @@ private:
     void openForm(const QString& formName, const Command& command);
     void connectEvents(QObject* form);
     void showStatus(const QString& message);
+    // A database error in one line: the sentence in the session language, then the engine's words.
+    void showStatus(const DbError& error);
     void updateStatusLabels();
     QWidget* formOf(QObject* sender) const;
     QString text(const char* thai, const char* english) const;
