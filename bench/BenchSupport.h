@@ -42,7 +42,7 @@ public:
     void information(const QString&, const QString&) override {}
     void critical(const QString& title, const QString& text) override;
     bool question(const QString&, const QString&) override { return true; }
-    SaveAnswer askToSave(const QString&, const QString&, int) override { return SaveAnswer::Save; }
+    SaveAnswer askToSave(const QString&, const QString&) override { return SaveAnswer::Save; }
 };
 
 // A measured figure against its floor.
