@@ -13,6 +13,11 @@
 
 namespace qd8::bench {
 
+void AnswerYes::critical(const QString& title, const QString& text)
+{
+    qFatal("%s: %s", qPrintable(title), qPrintable(text));
+}
+
 std::unique_ptr<BenchDatabase> BenchDatabase::sqlite()
 {
     auto db = std::make_unique<BenchDatabase>();

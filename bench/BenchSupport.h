@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/Services.h"
+
 #include <QString>
 #include <benchmark/benchmark.h>
 #include <functional>
@@ -31,6 +33,16 @@ private:
     QString m_name;
     QString m_folder;
     bool m_postgres = false;
+};
+
+// The clerk of the editor benchmarks: answers Yes to every confirmation, reads every
+// message, and stops the run on an error message.
+class AnswerYes : public MessageService {
+public:
+    void information(const QString&, const QString&) override {}
+    void critical(const QString& title, const QString& text) override;
+    bool question(const QString&, const QString&) override { return true; }
+    SaveAnswer askToSave(const QString&, const QString&) override { return SaveAnswer::Save; }
 };
 
 // A measured figure against its floor.

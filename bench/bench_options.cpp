@@ -28,14 +28,6 @@ const char* Reads[] = {"SELECT * FROM QD8TOptionGroup WHERE TOpGAlias='BIG'",
 const char* Update = "UPDATE QD8TOptionValue SET TOpVValue=%1, TOpVNumber=%2, TOpVEditBy=%3, TOpVEditDate=%4 WHERE TOpVScope=%5 AND "
                      "TOpVScopeKey=%6 AND TOpVTOptAlias=%7";
 
-class Yes : public MessageService {
-public:
-    void information(const QString&, const QString&) override {}
-    void critical(const QString& title, const QString& text) override { qFatal("%s: %s", qPrintable(title), qPrintable(text)); }
-    bool question(const QString&, const QString&) override { return true; }
-    SaveAnswer askToSave(const QString&, const QString&, int) override { return SaveAnswer::Save; }
-};
-
 QString alias(int i)
 {
     return QStringLiteral("OPT%1").arg(i, 4, 10, QLatin1Char('0'));
@@ -82,7 +74,7 @@ void load(benchmark::State& state, const BenchDatabase* db)
 
 void save(benchmark::State& state, const BenchDatabase* db)
 {
-    Yes yes;
+    AnswerYes yes;
     Services::setMessages(&yes);
     CustomOption editor;
     openEditor(editor, db);

@@ -24,15 +24,6 @@ namespace {
 constexpr int Rows = 10000;
 const char* Select = "SELECT * FROM QD8TDivision ORDER BY TDivSort";
 
-// The clerk who answers Yes to the confirmation and reads the closing message.
-class Yes : public MessageService {
-public:
-    void information(const QString&, const QString&) override {}
-    void critical(const QString& title, const QString& text) override { qFatal("%s: %s", qPrintable(title), qPrintable(text)); }
-    bool question(const QString&, const QString&) override { return true; }
-    SaveAnswer askToSave(const QString&, const QString&, int) override { return SaveAnswer::Save; }
-};
-
 void fill(const BenchDatabase& db)
 {
     const QString cs = db.connectionString();
@@ -73,7 +64,7 @@ void load(benchmark::State& state, const BenchDatabase* db)
 
 void save(benchmark::State& state, const BenchDatabase* db)
 {
-    Yes yes;
+    AnswerYes yes;
     Services::setMessages(&yes);
     QuickGrid grid;
     openGrid(grid, db);

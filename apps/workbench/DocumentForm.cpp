@@ -394,6 +394,14 @@ void DocumentForm::FillData()
     Setbuttons();
 }
 
+void DocumentForm::changeEvent(QEvent* event)
+{
+    // Labels and names follow a language switch at once, even while a clerk types.
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    HostedControl::changeEvent(event);
+}
+
 void DocumentForm::Refresh()
 {
     retranslate();
@@ -494,7 +502,7 @@ void DocumentForm::startNew()
             data.open(DataConnectionString());
             key = m_proposed = proposeNumber(data);
         } catch (const DbError& error) {
-            Services::messages().critical(m_title->text(), error.message());
+            Services::messages().critical(m_title->text(), error.report(LanguageID()));
         }
     }
     keyBox()->setText(key);
@@ -539,7 +547,7 @@ void DocumentForm::loadRow()
             showRow(rs);
         }
     } catch (const DbError& error) {
-        Services::messages().critical(m_title->text(), error.message());
+        Services::messages().critical(m_title->text(), error.report(LanguageID()));
     }
     markClean();
 }
@@ -599,7 +607,7 @@ void DocumentForm::pick(Entry& entry)
         code = SessionServices::listService().PickFromList(shownCaption(f), f.pickKey, f.pickKey + QLatin1Char(',') + pickName(f),
             bilingual("รหัส,ชื่อ", "Code,Name"), QStringLiteral("1800,5000"), QStringLiteral("0,0"), source, DataConnectionString(), 0, 0, 0, 1, 0, 0);
     } catch (const DbError& error) {
-        Services::messages().critical(shownCaption(f), error.message());
+        Services::messages().critical(shownCaption(f), error.report(LanguageID()));
         return;
     }
     if (code.isEmpty())
@@ -931,7 +939,7 @@ bool DocumentForm::save()
     } catch (const DbError& error) {
         if (m_voucher)
             m_voucher->rollback();
-        messages.critical(title, error.message() + QLatin1Char('\n')
+        messages.critical(title, error.report(LanguageID()) + QStringLiteral("\n\n")
                 + bilingual("ข้อมูลที่ท่านป้อนยังอยู่ในฟอร์ม ไม่ได้บันทึก", "What you entered is still in the form; nothing was saved."));
         return false;
     }

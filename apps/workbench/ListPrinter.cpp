@@ -63,7 +63,7 @@ ListPrinter::ListPrinter(const QString& title, const QString& sql, const QString
             body += QStringLiteral("</tr>");
         }
     } catch (const DbError& error) {
-        body += QStringLiteral("<tr><td colspan=\"%1\">%2</td></tr>").arg(captions.size()).arg(error.message().toHtmlEscaped());
+        body += QStringLiteral("<tr><td colspan=\"%1\">%2</td></tr>").arg(captions.size()).arg(error.report(look.languageId, QStringLiteral(": ")).toHtmlEscaped());
     }
     m_html = QStringLiteral("<html><body><h2>%1</h2><p>%2 — %3</p>"
                             "<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\">%4</table></body></html>")

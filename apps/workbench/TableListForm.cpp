@@ -109,7 +109,7 @@ void TableListForm::Refresh()
             for (int column = 0; column < m_table->columnCount() && column < rs.fieldCount(); ++column)
                 m_table->setItem(row, column, new QTableWidgetItem(text(rs.field(column))));
     } catch (const DbError& error) {
-        Services::messages().critical(caption(), error.message());
+        Services::messages().critical(caption(), error.report(LanguageID()));
     }
     m_table->resizeColumnsToContents();
     m_total->setText(QStringLiteral("%1 %2").arg(m_table->rowCount()).arg(bilingual("รายการ", "rows")));

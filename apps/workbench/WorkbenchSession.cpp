@@ -1,5 +1,6 @@
 #include "WorkbenchSession.h"
 
+#include "database/Schema.h"
 #include "database/SessionFunctions.h"
 #include "foundation/Connection.h"
 #include "foundation/ConnectionString.h"
@@ -16,7 +17,7 @@ namespace qd8 {
 QString WorkbenchSession::companyName() const
 {
     const ConnectionString cs = ConnectionString::parse(dataConnectionString);
-    return cs.engine() == Engine::SQLite ? QFileInfo(cs.sqliteFile()).fileName() : cs.value({"database", "dbname"});
+    return cs.engine() == Engine::SQLite ? QFileInfo(cs.sqliteFile()).absoluteDir().dirName() : cs.value({"database", "dbname"});
 }
 
 WorkbenchSession WorkbenchSession::sampleCompany(const QString& folder, const QString& adminProgram)
@@ -31,9 +32,34 @@ WorkbenchSession WorkbenchSession::sampleCompany(const QString& folder, const QS
                                              QString::fromLocal8Bit(admin.readAllStandardError() + admin.readAllStandardOutput()))
                                          .toStdString());
     }
-    const QString app = QStringLiteral("Driver=SQLite;Data Source=") + dir.absoluteFilePath(QStringLiteral("QD8Command.dat"));
-    const QString data = QStringLiteral("Driver=SQLite;Data Source=") + dir.absoluteFilePath(QStringLiteral("QD8Data.dat"));
+    return inFolder(dir.absolutePath());
+}
+
+WorkbenchSession WorkbenchSession::inFolder(const QString& folder)
+{
+    const QDir dir(folder);
+    const QString app = QStringLiteral("Driver=SQLite;Data Source=") + dir.absoluteFilePath(Schema::fileName(DatabaseRole::Application));
+    const QString data = QStringLiteral("Driver=SQLite;Data Source=") + dir.absoluteFilePath(Schema::fileName(DatabaseRole::CompanyData));
     return fromConnectionStrings(app, data, dir.absolutePath());
+}
+
+QList<WorkbenchSession> WorkbenchSession::companies() const
+{
+    QList<WorkbenchSession> found{*this};
+    const ConnectionString data = ConnectionString::parse(dataConnectionString);
+    if (data.engine() != Engine::SQLite)
+        return found;
+    const QDir folder = QFileInfo(data.sqliteFile()).absoluteDir();
+    QDir parent = folder;
+    if (!parent.cdUp())
+        return found;
+    for (const QFileInfo& sibling : parent.entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
+        const QDir dir(sibling.absoluteFilePath());
+        if (dir != folder && dir.exists(Schema::fileName(DatabaseRole::CompanyData))
+            && dir.exists(Schema::fileName(DatabaseRole::Application)))
+            found << inFolder(dir.absolutePath());
+    }
+    return found;
 }
 
 WorkbenchSession WorkbenchSession::fromConnectionStrings(const QString& app, const QString& data, const QString& files)

@@ -27,14 +27,21 @@ struct WorkbenchSession {
     int languageId = 0;
 
     QString iconPath() const { return appPath + QStringLiteral("/Icons"); }
-    // A short name of the company database for the status bar.
+    // A short name of the company database for the status bar and the login's company box:
+    // the folder of a SQLite company, the database name otherwise.
     QString companyName() const;
 
     // The sample company in a folder, created with qd8-admin when it is not there yet.
     // std::runtime_error when it cannot be created.
     static WorkbenchSession sampleCompany(const QString& folder, const QString& adminProgram);
+    // The SQLite company whose QD8Command.dat and QD8Data.dat are in the folder.
+    static WorkbenchSession inFolder(const QString& folder);
     // The databases given by connection strings; `files` holds icons and INI files.
     static WorkbenchSession fromConnectionStrings(const QString& app, const QString& data, const QString& files);
+
+    // The companies a user may change to, this one first: a SQLite company's sibling folders
+    // that hold a company too (~/.qd8/sample, ~/.qd8/branch2, ...). Nobody is logged in to them.
+    QList<WorkbenchSession> companies() const;
 
     QList<WorkbenchUser> users() const;
     // Logs the user in: true when the login name exists and the password matches.

@@ -1,6 +1,7 @@
 #include "WorkbenchWindow.h"
 
 #include "ListPrinter.h"
+#include "LoginDialog.h"
 #include "database/AppObject.h"
 #include "database/ClientObject.h"
 #include "database/DataObject.h"
@@ -9,6 +10,7 @@
 #include "database/SessionServices.h"
 #include "documents/DucumentList.h"
 #include "documents/MasterList.h"
+#include "editors/CustomData.h"
 #include "editors/HostOption.h"
 #include "foundation/Connection.h"
 #include "foundation/ConnectionString.h"
@@ -93,6 +95,7 @@ WorkbenchWindow::WorkbenchWindow(const WorkbenchSession& session, const QString&
     centreLayout->setContentsMargins(0, 0, 0, 0);
     // On a small screen the tool bar scrolls sideways instead of widening the window.
     auto* toolBarRoom = new QScrollArea(centre);
+    toolBarRoom->setFocusPolicy(Qt::NoFocus);  // Tab goes to its buttons
     toolBarRoom->setObjectName(QStringLiteral("toolBarRoom"));
     toolBarRoom->setFrameShape(QFrame::NoFrame);
     toolBarRoom->setWidgetResizable(true);
@@ -145,14 +148,19 @@ void WorkbenchWindow::buildStatusBar()
     statusBar()->addPermanentWidget(m_userLabel);
     statusBar()->addPermanentWidget(m_companyLabel);
     statusBar()->addPermanentWidget(m_language);
-    m_logOut = new QAction(this);
-    m_logOut->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_L));
-    connect(m_logOut, &QAction::triggered, this, &WorkbenchWindow::logOut);
-    addAction(m_logOut);
-    auto* logOutButton = new QToolButton(this);
-    logOutButton->setObjectName(QStringLiteral("btnLogOut"));
-    logOutButton->setDefaultAction(m_logOut);
-    statusBar()->addPermanentWidget(logOutButton);
+    const auto command = [this](const char* name, QKeyCombination key, bool (WorkbenchWindow::*slot)()) {
+        auto* action = new QAction(this);
+        action->setShortcut(QKeySequence(key));
+        connect(action, &QAction::triggered, this, slot);
+        addAction(action);
+        auto* button = new QToolButton(this);
+        button->setObjectName(QLatin1String(name));
+        button->setDefaultAction(action);
+        statusBar()->addPermanentWidget(button);
+        return action;
+    };
+    m_switchCompany = command("btnSwitchCompany", Qt::CTRL | Qt::SHIFT | Qt::Key_O, &WorkbenchWindow::switchCompany);
+    m_logOut = command("btnLogOut", Qt::CTRL | Qt::SHIFT | Qt::Key_L, &WorkbenchWindow::logOut);
     updateStatusLabels();
 }
 
@@ -164,9 +172,14 @@ void WorkbenchWindow::updateStatusLabels()
             name = user.loginName + QStringLiteral(" — ") + user.name;
     m_userLabel->setText(text("ผู้ใช้: ", "User: ") + name);
     m_companyLabel->setText(text("ฐานข้อมูล: ", "Company: ") + m_session.companyName());
+    m_modules->setAccessibleName(text("โมดูล", "Module"));
+    m_language->setAccessibleName(text("ภาษา", "Language"));
+    m_tabs->setAccessibleName(text("แบบฟอร์มที่เปิดอยู่", "Open forms"));
+    m_switchCompany->setText(text("เปลี่ยนบริษัท", "Switch company"));
     m_logOut->setText(text("ออกจากระบบ", "Log out"));
-    m_logOut->setToolTip(m_logOut->text() + QStringLiteral(" (") + m_logOut->shortcut().toString(QKeySequence::NativeText)
-        + QLatin1Char(')'));
+    for (QAction* action : {m_switchCompany, m_logOut})
+        action->setToolTip(action->text() + QStringLiteral(" (") + action->shortcut().toString(QKeySequence::NativeText)
+            + QLatin1Char(')'));
 }
 
 void WorkbenchWindow::fillModules(const QString& module)
@@ -183,7 +196,7 @@ void WorkbenchWindow::fillModules(const QString& module)
             m_modules->addItem(rs.text(QStringLiteral("TCmGName") + nameSuffix(m_session.languageId)),
                 rs.text(QStringLiteral("TCmGAlias")));
     } catch (const DbError& error) {
-        showStatus(error.message());
+        showStatus(error);
     }
     // Without a module asked for, the first one: all three command sets have entries.
     const int index = module.isEmpty() ? -1 : m_modules->findData(module);
@@ -238,7 +251,7 @@ void WorkbenchWindow::refreshLaunchers()
             launcher->Refresh();
         }
     } catch (const DbError& error) {
-        showStatus(error.message());
+        showStatus(error);
     }
     onThemeChange(m_ribbon->ribbon()->theme(), m_ribbon->ribbon());
 }
@@ -258,7 +271,7 @@ void WorkbenchWindow::setLanguage(int languageId)
     try {
         m_session.setLanguage(languageId, true);
     } catch (const DbError& error) {
-        showStatus(error.message());
+        showStatus(error);
         return;
     }
     {
@@ -299,7 +312,7 @@ void WorkbenchWindow::setLanguage(int languageId)
                 m_tabs->setTabText(i, caption);
         }
     } catch (const DbError& error) {
-        showStatus(error.message());
+        showStatus(error);
         return;
     }
     showStatus(text("ภาษาไทย", "English"));
@@ -360,7 +373,7 @@ void WorkbenchWindow::launch(const QString& shellFunction)
                 return;
             }
         } catch (const DbError& error) {
-            showStatus(error.message());
+            showStatus(error);
             return;
         }
     }
@@ -400,7 +413,7 @@ void WorkbenchWindow::openForm(const QString& formName, const Command& command)
             loadControl(*control, command);
     } catch (const DbError& error) {
         delete form;
-        showStatus(error.message());
+        showStatus(error);
         return;
     } catch (const std::exception& error) {
         delete form;
@@ -432,6 +445,9 @@ void WorkbenchWindow::loadControl(HostedControl& control, const Command& command
         host->SetLast2(control.session().FolderPathName, command.alias, QString::number(m_session.userId), m_session.dataConnectionString,
             m_session.appConnectionString, QSysInfo::machineHostName(), m_session.appPath + QStringLiteral("/QD8STARTUP.INI"));
     control.Refresh();
+    // The code lists open on the first list offered.
+    if (auto* lists = qobject_cast<CustomData*>(&control); lists && lists->DefaultFormAlias().isEmpty() && !lists->groupForms().isEmpty())
+        lists->setDefaultFormAlias(lists->groupForms().first().first);
     // Editors load their rows after listing what they offer.
     if (control.metaObject()->indexOfSlot("FillData()") >= 0)
         QMetaObject::invokeMethod(&control, "FillData");
@@ -453,7 +469,7 @@ QWidget* WorkbenchWindow::add(const QString& name)
             setUpControl(*control, alias, command.group);
     } catch (const DbError& error) {
         delete form;
-        showStatus(error.message());
+        showStatus(error);
         return nullptr;
     }
     connectEvents(form);
@@ -546,6 +562,22 @@ bool WorkbenchWindow::logOut()
     return true;
 }
 
+bool WorkbenchWindow::switchCompany()
+{
+    if (!closeAllForms())
+        return false;
+    WorkbenchSession next = m_session;
+    LoginDialog login(next, this);
+    // The command is for going elsewhere: the first other company is offered.
+    if (login.companyBox()->count() > 1)
+        login.companyBox()->setCurrentIndex(1);
+    if (login.exec() != QDialog::Accepted)
+        return false;
+    m_nextCompany = next;
+    close();
+    return true;
+}
+
 void WorkbenchWindow::closeEvent(QCloseEvent* event)
 {
     if (closeAllForms())
@@ -594,7 +626,7 @@ void WorkbenchWindow::onDeleteAction(const QString& selectRowData)
         if ((*deleter)(selectRowData, m_session))
             showStatus(text("ลบเอกสาร %1 แล้ว", "Deleted the document %1").arg(selectRowData));
     } catch (const DbError& error) {
-        Services::messages().critical(text("ลบเอกสาร", "Delete"), error.message());
+        Services::messages().critical(text("ลบเอกสาร", "Delete"), error.report(m_session.languageId));
     }
     if (auto* control = qobject_cast<HostedControl*>(form))
         control->Refresh();
@@ -607,6 +639,11 @@ void WorkbenchWindow::onThemeChange(int theme, QObject*)
     setStyleSheet(QStringLiteral("QMainWindow { background: %1; } QStatusBar { background: %2; color: %3; } QStatusBar QLabel { color: %3; } "
                                  "#centre qd8--DocumentToolBar QToolButton { color: %3; }")
                       .arg(t.background.name(), t.tabBar.name(), t.text.name()));
+}
+
+void WorkbenchWindow::showStatus(const DbError& error)
+{
+    showStatus(error.report(m_session.languageId, QStringLiteral(": ")));
 }
 
 void WorkbenchWindow::showStatus(const QString& message)
@@ -643,7 +680,7 @@ QStringList WorkbenchWindow::saveScreenshots(const QString& folder)
             if (isQuickForm(rs.text(QStringLiteral("TCmdAlias"))))
                 names << rs.text(QStringLiteral("TCmdAlias"));
     } catch (const DbError& error) {
-        showStatus(error.message());
+        showStatus(error);
     }
     for (const QString& name : names) {
         launch(name);

@@ -7,6 +7,7 @@
 #include <QMainWindow>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <tuple>
 
 class QAction;
@@ -17,6 +18,7 @@ class QTabWidget;
 namespace qd8 {
 
 class AppObject;
+class DbError;
 class ClientObject;
 class DataObject;
 class HostedControl;
@@ -62,6 +64,8 @@ public:
     QString savePicture(const QString& file);
     // The user logged out: the window closed for the next login, not to end the program.
     bool loggedOut() const { return m_loggedOut; }
+    // The company the user changed to: the window closed to reopen on it.
+    const std::optional<WorkbenchSession>& nextCompany() const { return m_nextCompany; }
 
 public Q_SLOTS:
     // What the host does for Lunch: opens the command's form, or says why it cannot.
@@ -78,6 +82,10 @@ public Q_SLOTS:
     // Ends the session (Ctrl+Shift+L): closes every form as closeAllForms does, then the
     // window, and the program asks who logs in next. False when a form stays open.
     bool logOut();
+    // Changes company (Ctrl+Shift+O): closes every form as closeAllForms does, then the login
+    // box offers the companies; on OK the window closes to reopen on the chosen one. False when
+    // a form stays open or the login was cancelled (the window stays on this company).
+    bool switchCompany();
 
 Q_SIGNALS:
     // Every status message, for logs and tests.
@@ -118,6 +126,8 @@ private:
     void openForm(const QString& formName, const Command& command);
     void connectEvents(QObject* form);
     void showStatus(const QString& message);
+    // A database error in one line: the sentence in the session language, then the engine's words.
+    void showStatus(const DbError& error);
     void updateStatusLabels();
     QWidget* formOf(QObject* sender) const;
     QString text(const char* thai, const char* english) const;
@@ -132,7 +142,9 @@ private:
     QLabel* m_userLabel = nullptr;
     QLabel* m_companyLabel = nullptr;
     QAction* m_logOut = nullptr;
+    QAction* m_switchCompany = nullptr;
     bool m_loggedOut = false;
+    std::optional<WorkbenchSession> m_nextCompany;
     QString m_status;
 };
 

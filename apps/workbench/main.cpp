@@ -103,7 +103,7 @@ int main(int argc, char* argv[])
         if (!lang.isEmpty())
             session.setLanguage(lang == QLatin1String("en") ? 1 : 0, true);
     } catch (const DbError& error) {
-        QTextStream(stderr) << "qd8-workbench: " << error.message() << '\n';
+        QTextStream(stderr) << "qd8-workbench: " << error.report(1, QStringLiteral(": ")) << '\n';
         return 1;
     } catch (const std::exception& error) {
         QTextStream(stderr) << "qd8-workbench: " << error.what() << '\n';
@@ -111,7 +111,8 @@ int main(int argc, char* argv[])
     }
 
     registerWorkbenchForms();
-    // One window per login: logging out closes it and asks who works next.
+    // One window per login: logging out closes it and asks who works next; changing company
+    // closes it and opens the next on the chosen company.
     for (;;) {
         WorkbenchWindow window(session, options.value("module"));
         QObject::connect(&window, &WorkbenchWindow::statusChanged, [&](const QString& message) { note("status " + message); });
@@ -135,6 +136,11 @@ int main(int argc, char* argv[])
         note("thai-font " + thaiFontFamily());
         QTimer::singleShot(0, &window, [&] { note("ready"); });
         const int code = app.exec();
+        if (window.nextCompany()) {
+            session = *window.nextCompany();
+            note("company " + session.companyName());
+            continue;
+        }
         if (!window.loggedOut())
             return code;
         note("logged out");

@@ -73,9 +73,8 @@ QString boxText(const QLineEdit* box)
 
 } // namespace
 
-DucumentList::DucumentList(QWidget* parent) : ListControl(parent)
+DucumentList::DucumentList(QWidget* parent) : ListControl("รายการเอกสาร", "Document list", parent)
 {
-    setAccessibleName(QStringLiteral("Document list"));
 }
 
 DucumentList::~DucumentList() = default;

@@ -58,8 +58,11 @@ bool callMember(QObject* form, const char* name)
 
 } // namespace
 
-ListControl::ListControl(QWidget* parent) : HostedControl(parent)
+ListControl::ListControl(const char* thai, const char* english, QWidget* parent)
+    : HostedControl(parent)
+    , m_name{thai, english}
 {
+    setAccessibleName(bilingual(thai, english));
     buildView();
 }
 
@@ -89,11 +92,9 @@ void ListControl::buildView()
     bottom->addStretch(1);
     m_count = new QLabel(this);
     m_count->setObjectName(QStringLiteral("lblTotal"));
-    m_count->setAccessibleName(QStringLiteral("Total"));
     bottom->addWidget(m_count);
     m_autoButton = new QPushButton(QStringLiteral("Auto"), this);
     m_autoButton->setObjectName(QStringLiteral("Command1"));
-    m_autoButton->setAccessibleName(QStringLiteral("Auto refresh"));
     connect(m_autoButton, &QPushButton::clicked, this, &ListControl::toggleAutoRefresh);
     bottom->addWidget(m_autoButton);
     layout->addLayout(bottom);
@@ -181,6 +182,9 @@ void ListControl::applyDefinitionToView()
     if (autoRefreshOn(m_def.AutoRefresh))
         m_timer->start(refreshSeconds(m_def.AutoRefresh) * 1000);
     m_autoButton->setText(m_timer->isActive() ? QStringLiteral("Stop") : QStringLiteral("Auto"));
+    setAccessibleName(m_lCaption.isEmpty() ? bilingual(m_name.thai, m_name.english) : m_lCaption);
+    m_count->setAccessibleName(bilingual("จำนวนรายการ", "Total"));
+    m_autoButton->setAccessibleName(bilingual("ปรับปรุงอัตโนมัติ", "Auto refresh"));
 }
 
 void ListControl::showLegend()

@@ -59,7 +59,8 @@ class ListControl : public HostedControl {
     Q_PROPERTY(QString AutoRefresh READ AutoRefresh WRITE setAutoRefresh)
 
 public:
-    explicit ListControl(QWidget* parent = nullptr);
+    // `thai` / `english` name the list for screen readers until the host gives it a caption.
+    ListControl(const char* thai, const char* english, QWidget* parent = nullptr);
     ~ListControl() override;
 
     QString LCaption() const { return m_lCaption; }
@@ -216,6 +217,10 @@ private:
     void showTotal(qint64 total);
     void showSelect();
 
+    struct {
+        const char* thai;
+        const char* english;
+    } m_name;
     QString m_lCaption, m_fCaption, m_docNo, m_reportGroup, m_commandAlias, m_prefix;
     bool m_prefixFromHost = false;
     DateLook m_dateLook;

@@ -14,9 +14,8 @@
 
 namespace qd8 {
 
-MasterList::MasterList(QWidget* parent) : ListControl(parent)
+MasterList::MasterList(QWidget* parent) : ListControl("รายการข้อมูลหลัก", "Master list", parent)
 {
-    setAccessibleName(QStringLiteral("Master list"));
 }
 
 MasterList::~MasterList() = default;

@@ -19,6 +19,10 @@ public:
     Q_INVOKABLE void SetLast4(const QString& FolderPathName, const QString& ControlName, qint32 UserID,
         const QString& DataConnectionString, const QString& AppConnectionString, const QString& ActiveBranchCode);
     QString ActiveBranchCode() const { return activeKey(); }
+
+protected:
+    // Without a branch named and none for the user, there is no branch to edit.
+    QString unusableReason() const override;
 };
 
 } // namespace qd8

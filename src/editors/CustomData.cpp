@@ -37,12 +37,14 @@ QuickGrid::Catalogue CustomData::catalogue() const
 {
     Catalogue c;
     const QString group = QuickGroup();
-    c.listing = group.isEmpty() ? Sql("SELECT * FROM QD8VCustomData ORDER BY TCusName")
-                                : Sql("SELECT * FROM QD8VCustomData WHERE TCmGAlias=") + quoted(group) + " ORDER BY TCusName";
+    // "SM" stands for every module here too.
+    const bool every = group.isEmpty() || group == QLatin1String("SM");
+    c.listing = every ? Sql("SELECT * FROM QD8VCustomData ORDER BY TCusName")
+                      : Sql("SELECT * FROM QD8VCustomData WHERE TCmGAlias=") + quoted(group) + " ORDER BY TCusName";
     c.keyField = QStringLiteral("TCusCode");
     c.captionField = QStringLiteral("TCusName") + nameSuffix();
     const QString mode = QString::number(m_remarkMode);
-    const QString source = group.isEmpty() || group == QLatin1String("SM")
+    const QString source = every
         ? QStringLiteral("QD8VCustomData WHERE TCusFlag1=1 AND TCmGFlag1=1  AND TCusMode=") + mode + QStringLiteral(" ORDER BY TCusName")
         : QStringLiteral("QD8VCustomData WHERE TCusFlag1=1 AND TCmGFlag1=1 AND TCusMode=") + mode + QStringLiteral(" AND TCmGAlias='") + group
             + QStringLiteral("' ORDER BY TCusName");

@@ -62,6 +62,12 @@ double numberOf(const QString& type, const QString& stored)
     return toNumber(stored);
 }
 
+// No module, or the back-office and management modules: the company options of every module.
+bool everyModule(const QString& module)
+{
+    return module.isEmpty() || module == QLatin1String("BACKOFFICE") || module == QLatin1String("MIS");
+}
+
 // The grid type of a value cell: an option with a pick form holds the picked key.
 QString cellType(const QString& type, bool pickForm)
 {
@@ -69,8 +75,6 @@ QString cellType(const QString& type, bool pickForm)
         return QStringLiteral("TEXT");
     return type == QLatin1String("AUTONUMBER") ? QStringLiteral("NUMBER") : type;
 }
-
-} // namespace
 
 // One option row beside what the grid shows.
 struct OptionRow {
@@ -80,6 +84,8 @@ struct OptionRow {
     bool stored = false;  // this scope holds a value
     bool reset = false;   // the save removes it
 };
+
+} // namespace
 
 class OptionEditor::Private {
 public:
@@ -156,48 +162,7 @@ OptionEditor::OptionEditor(const Scope& scope, QWidget* parent)
     connect(d->grid, &GridEditor::KeyDown, this, [this](int& keyCode, int) {
         if (keyCode == 113 && d->runMode == QLatin1String("EDIT")) {
             keyCode = 0;
-            const int row = d->grid->Row();
-            if (row < 1 || row > d->rows.size() || d->grid->TextMatrix(row, ColEdit) == QLatin1String("0"))
-                return;
-            const OptionRow& option = d->rows[row - 1];
-            const QString type = d->grid->TextMatrix(row, ColTypeWord);
-            const QString current = d->grid->model()->storedText(row - 1, ColValue - 1);
-            const QString title = d->grid->TextMatrix(row, ColAlias);
-            QString picked;
-            bool chosen = false;
-            try {
-                if (!option.runQuickForm.isEmpty()) {
-                    picked = QuickFormPick(option.runQuickForm, ConnectionString(), DataConnectionString());
-                    chosen = !picked.isEmpty();
-                } else if (type == QLatin1String("LABELLIST")) {
-                    const QList<GridLabel> labels = GridColumn::parseLabelList(option.labelList);
-                    QStringList entries;
-                    int at = -1;
-                    for (const GridLabel& label : labels) {
-                        if (label.code == current)
-                            at = int(entries.size());
-                        entries << label.label;
-                    }
-                    const int index = Services::picker().choose(title, entries, at);
-                    chosen = index >= 0 && index < labels.size();
-                    if (chosen)
-                        picked = labels[index].code;
-                } else if (type == QLatin1String("COLOR")) {
-                    const int colour = Services::picker().pickColor(current.isEmpty() ? -1 : int(toNumber(current)), title);
-                    chosen = colour >= 0;
-                    picked = QString::number(colour);
-                } else if (type == QLatin1String("DATE")) {
-                    const QDate day = Services::picker().pickDate(QDate::fromString(current, Qt::ISODate),
-                        d->grid->mapToGlobal(QPoint(0, 0)), DbSessionFunctions::userDateLook(UserID(), LanguageID(), DataConnectionString()));
-                    chosen = day.isValid();
-                    picked = day.toString(Qt::ISODate);
-                }
-            } catch (const DbError& error) {
-                Services::messages().critical(title, error.userText(LanguageID()));
-                return;
-            }
-            if (chosen)
-                d->grid->SetValue(row, ColValue, picked);
+            pickValue();
         }
     });
     const auto valueChanged = [this](int row, int col) {
@@ -358,8 +323,7 @@ QString OptionEditor::groupSource() const
 {
     const QString& group = d->optionGroup;
     if (!d->scope.showColumn) {
-        // The back-office and management modules offer the groups of every module.
-        if (group.isEmpty() || group == QLatin1String("BACKOFFICE") || group == QLatin1String("MIS"))
+        if (everyModule(group))
             return QStringLiteral("QD8VOptionGroup WHERE TOpGFlag1=1 AND TCmGFlag1=1 ORDER BY TOpGSort,TOpGTCmGAlias");
         return QStringLiteral("QD8VOptionGroup WHERE TOpGFlag1=1 AND TCmGFlag1=1 AND TOpGTCmGAlias='") + group
             + QStringLiteral("' ORDER BY TOpGSort,TOpGTCmGAlias");
@@ -382,14 +346,8 @@ void OptionEditor::changeEvent(QEvent* event)
 
 void OptionEditor::retranslate()
 {
-    static const struct {
-        const char* key;
-        const char* thai;
-        const char* english;
-    } captions[] = {{"Edit", "แก้ไข", "Edit"}, {"Update", "บันทึก", "Update"}, {"Cancel", "ยกเลิก", "Cancel"},
-        {"Default", "ค่าเริ่มต้น", "Default"}, {"Close", "ปิด", "Close"}};
-    for (const auto& caption : captions)
-        button(QString::fromLatin1(caption.key))->setText(bilingual(caption.thai, caption.english));
+    for (const QString& key : ButtonKeys)
+        button(key)->setText(editorButtonText(key, LanguageID()));
     d->selectLabel->setText(d->selectCaption.isEmpty() ? bilingual("กลุ่มตัวเลือก", "Option Group") : d->selectCaption);
     d->selectButton->setToolTip(bilingual("เลือกกลุ่มตัวเลือก (F2)", "Select Group (F2)"));
 }
@@ -399,13 +357,25 @@ void OptionEditor::Refresh()
     d->groups.clear();
     if (ConnectionString().isEmpty())
         return;
+    // The company editor reads the module's options with their groups from the combined view,
+    // the others the groups offered to their scope.
+    const bool company = scope() == OptionScope::Company;
+    const QString& module = d->optionGroup;
+    const Sql sql = !company   ? Sql("SELECT * FROM ") + groupSource()
+        : everyModule(module)  ? Sql("SELECT * FROM QD8VOption ORDER BY TOptSort,TOptAlias")
+                               : Sql("SELECT * FROM QD8VOption WHERE TCmGAlias=") + quoted(module) + " ORDER BY TOptSort,TOptAlias";
+    const QString key = company ? QStringLiteral("TOptTOpGAlias") : QStringLiteral("TOpGAlias");
     try {
         Connection app;
         app.open(ConnectionString());
         Recordset rs;
-        rs.open(Sql("SELECT * FROM ") + groupSource(), app);
+        rs.open(sql, app);
+        QSet<QString> listed;
         for (; !rs.eof(); rs.moveNext())
-            d->groups.append({rs.text(QStringLiteral("TOpGAlias")), rs.text(QStringLiteral("TOpGName") + nameSuffix())});
+            if (const QString group = rs.text(key); !group.isEmpty() && !listed.contains(group)) {
+                listed.insert(group);
+                d->groups.append({group, rs.text(QStringLiteral("TOpGName") + nameSuffix())});
+            }
     } catch (const DbError&) {
         // A list that cannot be read stays empty, as the suite's lists do.
     }
@@ -517,7 +487,12 @@ void OptionEditor::FillData()
             values << QVariantList{alias, column(Name), option.defaultValue, typeCaption(type, pickForm, LanguageID()), value, column(Mode), type,
                 column(Decimal), flag(CanBlank), edit, numberOf(type, value),
                 fromText(option.stored ? std::optional(scope()) : std::nullopt, value != option.defaultValue)};
-            cells << Cell{cellType(type, pickForm), int(toNumber(column(Decimal))), option.labelList, edit != QLatin1String("0")};
+            // Yes/no values read "Yes" and "No", picked like a label list.
+            const bool yesNo = !pickForm && (type == QLatin1String("YESNO") || type == QLatin1String("CHECK"));
+            cells << Cell{yesNo ? QStringLiteral("LABELLIST") : cellType(type, pickForm), int(toNumber(column(Decimal))),
+                yesNo ? QStringLiteral("0;No,1;Yes") : option.labelList, edit != QLatin1String("0")};
+            if (yesNo)
+                option.labelList = cells.last().labelList;
             d->rows << option;
         }
         d->grid->setLanguageID(LanguageID());
@@ -607,6 +582,49 @@ void OptionEditor::buttonClick(const QString& key)
             return;
         cmdCancel_Click();
     }
+}
+
+void OptionEditor::pickValue()
+{
+    const int row = d->grid->Row();
+    if (row < 1 || row > d->rows.size() || d->grid->TextMatrix(row, ColEdit) == QLatin1String("0"))
+        return;
+    const OptionRow& option = d->rows[row - 1];
+    const QString type = d->grid->TextMatrix(row, ColTypeWord);
+    const QString current = d->grid->model()->storedText(row - 1, ColValue - 1);
+    const QString title = d->grid->TextMatrix(row, ColAlias);
+    QString picked;
+    try {
+        if (!option.runQuickForm.isEmpty()) {
+            picked = QuickFormPick(option.runQuickForm, ConnectionString(), DataConnectionString());
+        } else if (type == QLatin1String("LABELLIST") || !option.labelList.isEmpty()) {
+            const QList<GridLabel> labels = GridColumn::parseLabelList(option.labelList);
+            QStringList entries;
+            int at = -1;
+            for (const GridLabel& label : labels) {
+                if (label.code == current)
+                    at = int(entries.size());
+                entries << label.label;
+            }
+            const int index = Services::picker().choose(title, entries, at);
+            if (index >= 0 && index < labels.size())
+                picked = labels[index].code;
+        } else if (type == QLatin1String("COLOR")) {
+            const int colour = Services::picker().pickColor(current.isEmpty() ? -1 : int(toNumber(current)), title);
+            if (colour >= 0)
+                picked = QString::number(colour);
+        } else if (type == QLatin1String("DATE")) {
+            const QDate day = Services::picker().pickDate(QDate::fromString(current, Qt::ISODate), d->grid->mapToGlobal(QPoint(0, 0)),
+                DbSessionFunctions::userDateLook(UserID(), LanguageID(), DataConnectionString()));
+            picked = day.toString(Qt::ISODate);
+        }
+    } catch (const DbError& error) {
+        Services::messages().critical(title, error.userText(LanguageID()));
+        return;
+    }
+    // Nothing picked (cancelled) leaves the value as it was.
+    if (!picked.isEmpty())
+        d->grid->SetValue(row, ColValue, picked);
 }
 
 void OptionEditor::cmdCancel_Click()

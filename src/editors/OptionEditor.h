@@ -118,6 +118,8 @@ protected:
 
 private:
     void retranslate();
+    // F2 in column E: the option's quick form, label list, colour dialog or calendar.
+    void pickValue();
     void enterMode(const QString& mode);
     // Column F: the scope a value comes from (nothing: the default), "*" when not the default.
     QString fromText(std::optional<OptionScope> from, bool differs) const;

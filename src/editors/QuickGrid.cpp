@@ -134,20 +134,13 @@ void QuickGrid::changeEvent(QEvent* event)
 
 void QuickGrid::retranslate()
 {
-    static const struct {
-        const char* key;
-        const char* thai;
-        const char* english;
-    } captions[] = {{"Enter", "ตกลง", "Enter"}, {"Help", "ช่วยเหลือ", "Help"}, {"Add", "เพิ่ม", "Add"}, {"Delete", "ลบ", "Delete"},
-        {"Filter", "แสดงเฉพาะ", "Filter"}, {"Copy", "คัดลอก", "Copy"}, {"Edit", "แก้ไข", "Edit"}, {"Update", "บันทึก", "Update"},
-        {"Cancel", "ยกเลิก", "Cancel"}, {"Close", "ปิด", "Close"}, {"UnPass", "ไม่ผ่าน", "Unpass"}, {"Pass", "ผ่าน", "Pass"},
-        {"Check", "ตรวจสอบ", "Check"}, {"Print", "พิมพ์", "Print"}};
-    for (const auto& caption : captions)
-        if (QAction* action = button(QString::fromLatin1(caption.key)))
-            action->setText(bilingual(caption.thai, caption.english));
+    for (const QString& key : ButtonKeys)
+        button(key)->setText(editorButtonText(key, LanguageID()));
     m_selectLabel->setText(m_selectCaption.isEmpty() ? bilingual("กลุ่มข้อมูล", "Group Code") : m_selectCaption);
     m_selectButton->setToolTip(bilingual("เลือกกลุ่มข้อมูล (F2)", "Select Group Code (F2)"));
     m_filter->setPlaceholderText(bilingual("แสดงเฉพาะรายการที่มีคำนี้", "Show only rows holding"));
+    m_selector->setAccessibleName(m_selectLabel->text());
+    m_filter->setAccessibleName(m_filter->placeholderText());
 }
 
 QAction* QuickGrid::button(const QString& key) const
@@ -200,7 +193,7 @@ void QuickGrid::Refresh()
         for (; !rs.eof(); rs.moveNext())
             m_groupForms.append({rs.text(c.keyField), rs.text(c.captionField)});
     } catch (const DbError& error) {
-        Services::messages().critical(bilingual("ฟอร์มข้อมูล", "Quick Form"), error.message());
+        Services::messages().critical(bilingual("ฟอร์มข้อมูล", "Quick Form"), error.report(LanguageID()));
     }
 }
 
@@ -214,7 +207,7 @@ void QuickGrid::chooseForm()
     try {
         alias = SessionServices::listService().PickFromList(pick);
     } catch (const DbError& error) {
-        Services::messages().critical(pick.title, error.message());
+        Services::messages().critical(pick.title, error.report(LanguageID()));
         return;
     }
     if (!alias.isEmpty())
@@ -300,7 +293,7 @@ void QuickGrid::FillData()
         m_grid->setRefuseDelete(!m_form.canDelete || m_form.readOnly);
         loadRows(data);
     } catch (const DbError& error) {
-        Services::messages().critical(m_form.caption.isEmpty() ? bilingual("ฟอร์มข้อมูล", "Quick Form") : m_form.caption, error.message());
+        Services::messages().critical(m_form.caption.isEmpty() ? bilingual("ฟอร์มข้อมูล", "Quick Form") : m_form.caption, error.report(LanguageID()));
         enterMode(QStringLiteral("BLANK"));
         return;
     }
@@ -557,7 +550,7 @@ QString QuickGrid::SelectQuickForm3(const QString& QuickFormAlias, int HF, const
         return SessionServices::listService().PickFromList(
             quickFormPickQuery(form, LanguageID(), employeeScope(QuickFormAlias, HF), CustomFilter, DataConnectionString()));
     } catch (const DbError& error) {
-        Services::messages().critical(QuickFormAlias, error.message());
+        Services::messages().critical(QuickFormAlias, error.report(LanguageID()));
         return {};
     }
 }

@@ -66,8 +66,7 @@ bool QuickGrid::save(bool confirmed)
         }
         transaction.commit();
     } catch (const DbError& error) {
-        const QString detail = error.detail(LanguageID());
-        messages.critical(m_form.caption, error.userText(LanguageID()) + (detail.isEmpty() ? QString() : QStringLiteral("\n\n") + detail));
+        messages.critical(m_form.caption, error.report(LanguageID()));
         return false;
     }
     messages.information(m_form.caption, QStringLiteral("บันทึกข้อมูล  ") + QString::number(saved) + QStringLiteral(" รายการ   ลบข้อมูล ")

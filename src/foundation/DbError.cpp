@@ -55,4 +55,10 @@ QString DbError::detail(int languageId) const
     return m_message == userText(languageId) ? QString() : m_message;
 }
 
+QString DbError::report(int languageId, const QString& separator) const
+{
+    const QString more = detail(languageId);
+    return more.isEmpty() ? userText(languageId) : userText(languageId) + separator + more;
+}
+
 } // namespace qd8

@@ -32,6 +32,8 @@ public:
     QString userText(int languageId) const;
     // The engine's (or data layer's) own words, when they add anything to userText().
     QString detail(int languageId) const;
+    // What a user is shown: userText(), and detail() after `separator` when there is one.
+    QString report(int languageId, const QString& separator = QStringLiteral("\n\n")) const;
     // Sets the user sentence, in Thai and English (or one already in the session language).
     DbError& explain(const QString& thai, const QString& english);
     DbError& explain(const QString& text) { return explain(text, text); }

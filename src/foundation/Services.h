@@ -25,9 +25,9 @@ public:
     virtual bool question(const QString& title, const QString& text) = 0;
     // What to do with unsaved changes before they would be dropped: Save, Discard or
     // Cancel (the default and Escape, so a stray key loses nothing). The buttons are worded
-    // in the session language (LanguageID 0 Thai).
+    // in the session language like every other box's.
     enum class SaveAnswer { Save, Discard, Cancel };
-    virtual SaveAnswer askToSave(const QString& title, const QString& text, int languageId) = 0;
+    virtual SaveAnswer askToSave(const QString& title, const QString& text) = 0;
 
     // The session language the buttons are worded in (LanguageID: 0 Thai, else English);
     // the host sets it at login and when the user switches.

@@ -31,15 +31,16 @@ constexpr ToggleMode Modes[] = {
 
 struct UtilityButton {
     QStyle::StandardPixmap icon;
-    const char* toolTip;
+    const char* thai;
+    const char* english;
 };
 
 constexpr UtilityButton Utilities[] = {
-    {QStyle::SP_DialogHelpButton, "Help"},
-    {QStyle::SP_DesktopIcon, "Calculator"},
-    {QStyle::SP_DirOpenIcon, "Image folder"},
-    {QStyle::SP_FileDialogDetailedView, "Spec folder"},
-    {QStyle::SP_FileDialogContentsView, "Report search"},
+    {QStyle::SP_DialogHelpButton, "วิธีใช้", "Help"},
+    {QStyle::SP_DesktopIcon, "เครื่องคิดเลข", "Calculator"},
+    {QStyle::SP_DirOpenIcon, "โฟลเดอร์รูปภาพ", "Image folder"},
+    {QStyle::SP_FileDialogDetailedView, "โฟลเดอร์ข้อกำหนด", "Spec folder"},
+    {QStyle::SP_FileDialogContentsView, "ค้นหารายงาน", "Report search"},
 };
 
 } // namespace
@@ -68,7 +69,6 @@ DocumentToolBar::DocumentToolBar(QWidget* parent)
         auto* button = new QToolButton(this);
         button->setAutoRaise(true);
         button->setIcon(style()->standardIcon(Utilities[i].icon));
-        button->setToolTip(QString::fromUtf8(Utilities[i].toolTip));
         button->setObjectName(QStringLiteral("cmdUtility%1").arg(i));
         connect(button, &QToolButton::clicked, this, [this, i] { utilityButtonClick(i); });
         layout->addWidget(button);
@@ -97,6 +97,11 @@ QString DocumentToolBar::commandAlias(int index) const
 void DocumentToolBar::Refresh()
 {
     deriveCommandCentre();
+    // The icons alone speak no language: the tool tip and the screen-reader name say what each does.
+    for (int i = 0; i < UtilityButtons; ++i) {
+        m_utilities[i]->setToolTip(bilingual(Utilities[i].thai, Utilities[i].english));
+        m_utilities[i]->setAccessibleName(m_utilities[i]->toolTip());
+    }
     setMode(0);
 }
 

@@ -335,7 +335,7 @@ void NUVRibbon::pickTheme()
         try {
             DbSessionFunctions::storeUserSetting(UserID(), QStringLiteral("RibbonTheme"), QString::number(theme), ConnectionString());
         } catch (const DbError& error) {
-            Services::messages().critical(QStringLiteral("Theme"), error.message());
+            Services::messages().critical(QStringLiteral("Theme"), error.report(LanguageID()));
         }
     }
     m_ribbon->setTheme(theme);

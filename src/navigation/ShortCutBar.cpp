@@ -136,6 +136,11 @@ void ShortCutBar::Refresh()
     DOMODULELIST();
     DOMAINLIST();
     showList(1);
+    // The headers keep their given English words; the lists are named in the user's language.
+    for (CommandSet set : HeaderOrder)
+        listView(set)->setAccessibleName(set == CommandSet::Main ? bilingual("เมนูกลุ่ม", "Group Menu")
+                : set == CommandSet::User                      ? bilingual("เมนูผู้ใช้", "User Menu")
+                                                                : bilingual("เมนูโมดูล", "Module Menu"));
 }
 
 void ShortCutBar::DOMAINLIST()

@@ -5,6 +5,7 @@
 #include "foundation/ConnectionPool.h"
 #include "foundation/DbError.h"
 #include "widgets/DataViewModel_p.h"
+#include "widgets/TableParts_p.h"
 #include "widgets/Twips.h"
 
 #include <QAbstractButton>
@@ -102,6 +103,8 @@ struct DataView::Private {
 
     explicit Private(DataView* owner);
     void buildView();
+    // The screen-reader names of the view and its parts, in the language of the dates.
+    void nameParts(int languageId);
     void buildButtons(QHBoxLayout* strip);
     void applyColumns();
     void applyRowHeight();
@@ -144,20 +147,16 @@ void DataView::Private::buildView()
     view->installEventFilter(q);
     view->viewport()->installEventFilter(q);
 
-    view->setAccessibleName(QStringLiteral("Rows"));
-    view->horizontalHeader()->setAccessibleName(QStringLiteral("Column titles"));
-    view->verticalHeader()->setAccessibleName(QStringLiteral("Row marks"));
-    for (QScrollBar* bar : view->findChildren<QScrollBar*>()) {
-        bar->setAccessibleName(bar->orientation() == Qt::Horizontal ? QStringLiteral("Horizontal scroll bar")
-                                                                    : QStringLiteral("Vertical scroll bar"));
-    }
-    if (auto* corner = view->findChild<QAbstractButton*>())
-        corner->setAccessibleName(QStringLiteral("Select all"));
-
     progress->setObjectName(QStringLiteral("progress"));
-    progress->setAccessibleName(QStringLiteral("Progress"));
+    nameParts(0);
     progress->setTextVisible(true);
     progress->hide();
+}
+
+void DataView::Private::nameParts(int languageId)
+{
+    q->setAccessibleName(inLanguage(languageId, "ตารางข้อมูล", "Data view"));
+    nameTableParts(view, progress, languageId, "รายการ", "Rows");
 }
 
 void DataView::Private::buildButtons(QHBoxLayout* strip)
@@ -333,7 +332,6 @@ DataView::DataView(QWidget* parent)
     : QWidget(parent)
     , d(std::make_unique<Private>(this))
 {
-    setAccessibleName(QStringLiteral("Data view"));
     d->buildView();
 
     auto* strip = new QHBoxLayout;
@@ -495,6 +493,7 @@ void DataView::setRowColour(std::function<QColor(const DataRow&)> colour)
 void DataView::setDateLook(const DateLook& look)
 {
     d->model->setDateLook(look);
+    d->nameParts(look.languageId);
 }
 
 void DataView::setButtonVisible(Button button, bool visible)

@@ -17,7 +17,6 @@ DateTimeView::DateTimeView(QWidget* parent)
     , m_time(new QTimeEdit(this))
 {
     m_time->setDisplayFormat(QStringLiteral("HH:mm"));
-    m_time->setAccessibleName(QStringLiteral("Time"));
     m_time->installEventFilter(this);
     auto* timeRow = new QHBoxLayout;
     timeRow->addStretch(1);
@@ -36,6 +35,7 @@ void DateTimeView::setDateLook(const DateLook& look)
 {
     m_calendar->setDateLook(look);
     m_time->setToolTip(inLanguage(look.languageId, "เวลา (ชช:นน)", "Time (hh:mm)"));
+    m_time->setAccessibleName(inLanguage(look.languageId, "เวลา", "Time"));
 }
 
 QDateTime DateTimeView::dateTime() const

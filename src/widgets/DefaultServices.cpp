@@ -18,7 +18,6 @@
 #include <QHash>
 #include <QProcess>
 #include <QProgressDialog>
-#include <QPushButton>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -72,18 +71,18 @@ bool QtMessageService::question(const QString& title, const QString& text)
     return ask(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 
-MessageService::SaveAnswer QtMessageService::askToSave(const QString& title, const QString& text, int languageId)
+MessageService::SaveAnswer QtMessageService::askToSave(const QString& title, const QString& text)
 {
-    QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::NoButton, activeWindow());
-    QPushButton* save = box.addButton(inLanguage(languageId, "บันทึก", "Save"), QMessageBox::AcceptRole);
-    QPushButton* discard = box.addButton(inLanguage(languageId, "ไม่บันทึก", "Discard"), QMessageBox::DestructiveRole);
-    QPushButton* cancel = box.addButton(inLanguage(languageId, "ยกเลิก", "Cancel"), QMessageBox::RejectRole);
-    box.setDefaultButton(cancel);
-    box.setEscapeButton(cancel);
-    box.exec();
-    if (box.clickedButton() == save)
+    // Cancel is the box's only rejecting button, so Escape and the window's × answer it too.
+    switch (ask(QMessageBox::Warning, title, text, QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
+        QMessageBox::Cancel)) {
+    case QMessageBox::Save:
         return SaveAnswer::Save;
-    return box.clickedButton() == discard ? SaveAnswer::Discard : SaveAnswer::Cancel;
+    case QMessageBox::Discard:
+        return SaveAnswer::Discard;
+    default:
+        return SaveAnswer::Cancel;
+    }
 }
 
 QString DialogPickerService::pick(const PickRequest& request)

@@ -18,7 +18,7 @@ public:
     void information(const QString& title, const QString& text) override;
     void critical(const QString& title, const QString& text) override;
     bool question(const QString& title, const QString& text) override;
-    SaveAnswer askToSave(const QString& title, const QString& text, int languageId) override;
+    SaveAnswer askToSave(const QString& title, const QString& text) override;
 
 private:
     QMessageBox::StandardButton ask(QMessageBox::Icon icon, const QString& title, const QString& text,

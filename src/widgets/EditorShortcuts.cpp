@@ -1,5 +1,7 @@
 #include "widgets/EditorShortcuts_p.h"
 
+#include "foundation/Language.h"
+
 #include <QAction>
 #include <QHash>
 #include <QWidget>
@@ -17,6 +19,18 @@ QKeySequence editorShortcut(const QString& buttonKey)
         {QStringLiteral("Print"), QKeySequence(Qt::CTRL | Qt::Key_P)},
     };
     return keys.value(buttonKey);
+}
+
+QString editorButtonText(const QString& buttonKey, int languageId)
+{
+    static const QHash<QString, QPair<const char*, const char*>> captions = {{QStringLiteral("Enter"), {"ตกลง", "Enter"}},
+        {QStringLiteral("Help"), {"ช่วยเหลือ", "Help"}}, {QStringLiteral("Add"), {"เพิ่ม", "Add"}}, {QStringLiteral("Delete"), {"ลบ", "Delete"}},
+        {QStringLiteral("Filter"), {"แสดงเฉพาะ", "Filter"}}, {QStringLiteral("Copy"), {"คัดลอก", "Copy"}}, {QStringLiteral("Edit"), {"แก้ไข", "Edit"}},
+        {QStringLiteral("Update"), {"บันทึก", "Update"}}, {QStringLiteral("Cancel"), {"ยกเลิก", "Cancel"}}, {QStringLiteral("Close"), {"ปิด", "Close"}},
+        {QStringLiteral("UnPass"), {"ไม่ผ่าน", "Unpass"}}, {QStringLiteral("Pass"), {"ผ่าน", "Pass"}}, {QStringLiteral("Check"), {"ตรวจสอบ", "Check"}},
+        {QStringLiteral("Print"), {"พิมพ์", "Print"}}, {QStringLiteral("Default"), {"ค่าเริ่มต้น", "Default"}}};
+    const auto found = captions.constFind(buttonKey);
+    return found == captions.constEnd() ? buttonKey : inLanguage(languageId, found->first, found->second);
 }
 
 QString withShortcut(const QString& caption, const QKeySequence& keys)

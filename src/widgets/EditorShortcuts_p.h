@@ -13,6 +13,10 @@ namespace qd8 {
 // `buttonKey` is the button's key as SetPermission names it; other keys have none.
 QKeySequence editorShortcut(const QString& buttonKey);
 
+// The caption of an editor's tool-bar button by its key ("Update": "บันทึก" / "Update"), in the
+// session language; the key itself for a key no editor has.
+QString editorButtonText(const QString& buttonKey, int languageId);
+
 // "<caption> (<keys>)": how a tool tip names a command's shortcut.
 QString withShortcut(const QString& caption, const QKeySequence& keys);
 

@@ -4,6 +4,7 @@
 #include "foundation/DbError.h"
 #include "widgets/GridEditorDelegate_p.h"
 #include "widgets/GridEditorModel.h"
+#include "widgets/TableParts_p.h"
 #include "widgets/Twips.h"
 
 #include <QAbstractButton>
@@ -88,6 +89,8 @@ public:
     void showMessage(const QModelIndex& index, const QString& message);
     void hideMessage();
     bool offerKey(QKeyEvent* event);
+    // The screen-reader names of the grid and its parts in the session language.
+    void nameParts(int languageId);
 
     GridEditor* const q;
     GridEditorModel* model;
@@ -135,18 +138,7 @@ GridEditor::Private::Private(GridEditor* owner)
     view->horizontalHeader()->setTextElideMode(Qt::ElideRight);  // a clipped caption ends in "…"
     view->horizontalHeader()->setMinimumHeight(textHeight + 8);
 
-    view->setAccessibleName(QStringLiteral("Grid editor"));
-    view->horizontalHeader()->setAccessibleName(QStringLiteral("Column titles"));
-    rows->setAccessibleName(QStringLiteral("Row marks"));
-    for (QScrollBar* bar : view->findChildren<QScrollBar*>()) {
-        bar->setAccessibleName(bar->orientation() == Qt::Horizontal ? QStringLiteral("Horizontal scroll bar")
-                                                                    : QStringLiteral("Vertical scroll bar"));
-    }
-    if (auto* corner = view->findChild<QAbstractButton*>())
-        corner->setAccessibleName(QStringLiteral("Select all"));
-
     message->setObjectName(QStringLiteral("cellMessage"));
-    message->setAccessibleName(QStringLiteral("Cell message"));
     message->setAutoFillBackground(true);
     message->setForegroundRole(QPalette::ToolTipText);
     message->setBackgroundRole(QPalette::ToolTipBase);
@@ -159,7 +151,6 @@ GridEditor::Private::Private(GridEditor* owner)
     QObject::connect(messageTimer, &QTimer::timeout, message, &QLabel::hide);
 
     progress->setObjectName(QStringLiteral("progress"));
-    progress->setAccessibleName(QStringLiteral("Progress"));
     progress->setTextVisible(true);
     progress->hide();
 
@@ -169,7 +160,14 @@ GridEditor::Private::Private(GridEditor* owner)
     layout->addWidget(view);
     layout->addWidget(progress);
     q->setFocusProxy(view);
-    q->setAccessibleName(QStringLiteral("Grid editor"));
+    nameParts(0);
+}
+
+void GridEditor::Private::nameParts(int languageId)
+{
+    q->setAccessibleName(inLanguage(languageId, "ตารางแก้ไขข้อมูล", "Grid editor"));
+    nameTableParts(view, progress, languageId, "ตารางแก้ไขข้อมูล", "Grid editor");
+    message->setAccessibleName(inLanguage(languageId, "ข้อความของช่อง", "Cell message"));
 }
 
 int GridEditor::Private::firstColumn(int row, bool editableOnly) const
@@ -424,6 +422,7 @@ int GridEditor::LanguageID() const
 void GridEditor::setLanguageID(int languageId)
 {
     d->model->setLanguageId(languageId);
+    d->nameParts(languageId);
 }
 
 void GridEditor::setDateLook(const DateLook& look)
@@ -566,7 +565,8 @@ void GridEditor::ShowProgress(const QString& Caption, int Maximum)
     d->progress->setRange(0, std::max(Maximum, 0));
     d->progress->setValue(0);
     d->progress->setFormat(Maximum > 0 ? Caption + QStringLiteral("  %p%") : Caption);
-    d->progress->setAccessibleName(Caption.isEmpty() ? QStringLiteral("Progress") : Caption);
+    if (!Caption.isEmpty())
+        d->progress->setAccessibleName(Caption);
     d->progress->show();
 }
 

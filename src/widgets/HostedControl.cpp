@@ -171,8 +171,7 @@ bool HostedControl::confirmClose(const QString& title)
     if (!hasUnsavedChanges())
         return true;
     switch (Services::messages().askToSave(title,
-        bilingual("มีข้อมูลที่ยังไม่ได้บันทึก ต้องการบันทึกก่อนปิดหรือไม่", "There are changes that are not saved. Save them before closing?"),
-        LanguageID())) {
+        bilingual("มีข้อมูลที่ยังไม่ได้บันทึก ต้องการบันทึกก่อนปิดหรือไม่", "There are changes that are not saved. Save them before closing?"))) {
     case MessageService::SaveAnswer::Save:
         return saveChanges();
     case MessageService::SaveAnswer::Discard:

@@ -32,10 +32,6 @@ MonthCalendar::MonthCalendar(QWidget* parent)
         b->setFocusPolicy(Qt::NoFocus);
         b->setAutoRaise(true);
     }
-    m_previous->setAccessibleName(QStringLiteral("Previous month"));
-    m_next->setAccessibleName(QStringLiteral("Next month"));
-    m_title->setAccessibleName(QStringLiteral("Month"));
-    m_days->setAccessibleName(QStringLiteral("Days"));
     setFocusProxy(m_days);
 
     auto* top = new QHBoxLayout;
@@ -63,6 +59,10 @@ void MonthCalendar::setDateLook(const DateLook& look)
                               isThai(look.languageId) ? QLocale::Thailand : QLocale::UnitedStates));
     m_previous->setToolTip(inLanguage(look.languageId, "เดือนก่อน (PgUp)", "Previous month (PgUp)"));
     m_next->setToolTip(inLanguage(look.languageId, "เดือนถัดไป (PgDn)", "Next month (PgDn)"));
+    m_previous->setAccessibleName(inLanguage(look.languageId, "เดือนก่อน", "Previous month"));
+    m_next->setAccessibleName(inLanguage(look.languageId, "เดือนถัดไป", "Next month"));
+    m_title->setAccessibleName(inLanguage(look.languageId, "เดือน", "Month"));
+    m_days->setAccessibleName(inLanguage(look.languageId, "วัน", "Days"));
     showTitle();
 }
 

@@ -26,9 +26,8 @@ MonthYearView::MonthYearView(QWidget* parent)
     auto* next = new QToolButton(this);
     previous->setArrowType(Qt::LeftArrow);
     next->setArrowType(Qt::RightArrow);
-    previous->setAccessibleName(QStringLiteral("Previous year"));
-    next->setAccessibleName(QStringLiteral("Next year"));
-    m_yearLabel->setAccessibleName(QStringLiteral("Year"));
+    previous->setObjectName(QStringLiteral("previousYear"));
+    next->setObjectName(QStringLiteral("nextYear"));
     m_yearLabel->setAlignment(Qt::AlignCenter);
     QFont bold = m_yearLabel->font();
     bold.setBold(true);
@@ -71,6 +70,9 @@ MonthYearView::MonthYearView(QWidget* parent)
 void MonthYearView::setDateLook(const DateLook& look)
 {
     m_look = look;
+    findChild<QToolButton*>(QStringLiteral("previousYear"))->setAccessibleName(inLanguage(look.languageId, "ปีก่อน", "Previous year"));
+    findChild<QToolButton*>(QStringLiteral("nextYear"))->setAccessibleName(inLanguage(look.languageId, "ปีถัดไป", "Next year"));
+    m_yearLabel->setAccessibleName(inLanguage(look.languageId, "ปี", "Year"));
     showChoice();
 }
 

@@ -1,6 +1,8 @@
 #include "widgets/PickListDialog.h"
 
 #include "foundation/DbError.h"
+#include "foundation/Language.h"
+#include "foundation/Services.h"
 #include "widgets/PickListModel_p.h"
 #include "widgets/Twips.h"
 
@@ -39,17 +41,20 @@ PickListDialog::PickListDialog(const PickRequest& request, QWidget* parent)
     , m_message(new QLabel(this))
     , m_buttons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this))
 {
+    // The dialog lives while one pick lasts: worded once, in the session language.
+    const int language = Services::messages().language();
+    const auto words = [language](const char* thai, const char* english) { return inLanguage(language, thai, english); };
     setWindowTitle(request.title);
-    setAccessibleName(request.title.isEmpty() ? QStringLiteral("Pick list") : request.title);
+    setAccessibleName(request.title.isEmpty() ? words("รายการให้เลือก", "Pick list") : request.title);
 
-    auto* searchLabel = new QLabel(QStringLiteral("ค้นหา"), this);
+    auto* searchLabel = new QLabel(words("ค้นหา", "Search"), this);
     searchLabel->setBuddy(m_search);
-    searchLabel->setAccessibleName(QStringLiteral("Search label"));
-    m_search->setAccessibleName(QStringLiteral("Search"));
+    searchLabel->setAccessibleName(words("ป้ายช่องค้นหา", "Search label"));
+    m_search->setAccessibleName(words("ค้นหา", "Search"));
     m_search->setClearButtonEnabled(true);
     m_search->installEventFilter(this);
 
-    m_view->setAccessibleName(QStringLiteral("Rows"));
+    m_view->setAccessibleName(words("รายการ", "Rows"));
     m_view->setModel(m_model);
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -62,7 +67,7 @@ PickListDialog::PickListDialog(const PickRequest& request, QWidget* parent)
     m_view->horizontalHeader()->setStretchLastSection(true);
     m_view->horizontalHeader()->setHighlightSections(false);
 
-    m_message->setAccessibleName(QStringLiteral("Message"));
+    m_message->setAccessibleName(words("ข้อความ", "Message"));
     m_message->setWordWrap(true);
     m_message->setTextInteractionFlags(Qt::TextSelectableByMouse);
     QPalette palette = m_message->palette();
@@ -70,11 +75,14 @@ PickListDialog::PickListDialog(const PickRequest& request, QWidget* parent)
     m_message->setPalette(palette);
     m_message->hide();
 
-    m_buttons->setAccessibleName(QStringLiteral("Buttons"));
+    m_buttons->setAccessibleName(words("ปุ่มคำสั่ง", "Buttons"));
     QPushButton* ok = m_buttons->button(QDialogButtonBox::Ok);
-    ok->setAccessibleName(QStringLiteral("Pick"));
+    ok->setText(words("ตกลง", "OK"));
+    ok->setAccessibleName(words("เลือก", "Pick"));
     ok->setDefault(true);
-    m_buttons->button(QDialogButtonBox::Cancel)->setAccessibleName(QStringLiteral("Cancel"));
+    QPushButton* cancel = m_buttons->button(QDialogButtonBox::Cancel);
+    cancel->setText(words("ยกเลิก", "Cancel"));
+    cancel->setAccessibleName(cancel->text());
 
     auto* searchRow = new QHBoxLayout;
     searchRow->addWidget(searchLabel);
@@ -101,7 +109,7 @@ PickListDialog::PickListDialog(const PickRequest& request, QWidget* parent)
         m_model->load(request);
         showMessage(m_model->notice());
     } catch (const DbError& e) {
-        showMessage(e.message(), e.statement());
+        showMessage(e.report(language), e.statement());
     } catch (const std::exception& e) {
         showMessage(QString::fromLocal8Bit(e.what()));
     }

@@ -2,6 +2,7 @@
 
 #include "foundation/CommaList.h"
 #include "foundation/DbError.h"
+#include "foundation/Services.h"
 #include "foundation/Values.h"
 
 #include <QStringMatcher>
@@ -193,7 +194,7 @@ bool PickListModel::readMore(qsizetype rows)
         return m_cursor.fetch(rows) > 0;
     } catch (const DbError& e) {
         m_failed = true;
-        emit fetchFailed(e.message());
+        emit fetchFailed(e.report(Services::messages().language()));
         return false;
     }
 }

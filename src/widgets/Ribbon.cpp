@@ -1,5 +1,8 @@
 #include "widgets/Ribbon.h"
 
+#include "foundation/Language.h"
+#include "foundation/Services.h"
+
 #include <QContextMenuEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -10,6 +13,7 @@
 #include <QPainterPath>
 #include <QPixmap>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QStyle>
 #include <QTabBar>
@@ -138,6 +142,25 @@ private:
     const Ribbon* m_ribbon;
 };
 
+// The ribbon's own parts are named in the session language the host handed the message service.
+QString partName(const char* thai, const char* english)
+{
+    return inLanguage(Services::messages().language(), thai, english);
+}
+
+QString scrollName(bool back)
+{
+    return back ? partName("เลื่อนกลับ", "Scroll back") : partName("เลื่อนไปข้างหน้า", "Scroll forward");
+}
+
+void nameParts(QWidget* ribbon, QTabBar* tabs)
+{
+    ribbon->setAccessibleName(partName("ริบบอน", "Ribbon"));
+    tabs->setAccessibleName(partName("แท็บริบบอน", "Ribbon tabs"));
+    for (QToolButton* button : ribbon->findChildren<QToolButton*>(QRegularExpression(QStringLiteral("^ribbonScroll"))))
+        button->setAccessibleName(scrollName(button->objectName() == QLatin1String("ribbonScrollBack")));
+}
+
 // One tab's page. The groups sit in a row kept at its natural width: a page wider than the
 // ribbon is never squeezed (buttons would overlap) but scrolls sideways, with arrow buttons
 // at its edges and the mouse wheel, so every button stays reachable on a small screen.
@@ -253,7 +276,7 @@ private:
         button->setArrowType(arrow);
         button->setAutoRepeat(true);
         button->setFocusPolicy(Qt::NoFocus);
-        button->setAccessibleName(arrow == Qt::LeftArrow ? QStringLiteral("Scroll back") : QStringLiteral("Scroll forward"));
+        button->setAccessibleName(scrollName(arrow == Qt::LeftArrow));
         button->hide();
         return button;
     }
@@ -318,11 +341,10 @@ Ribbon::Ribbon(QWidget* parent)
     , m_tabBar(new QTabBar(this))
     , m_pages(new QStackedWidget(this))
 {
-    setAccessibleName(QStringLiteral("Ribbon"));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 
     m_tabBar->setObjectName(QStringLiteral("ribbonTabs"));
-    m_tabBar->setAccessibleName(QStringLiteral("Ribbon tabs"));
+    nameParts(this, m_tabBar);
     m_tabBar->setExpanding(false);
     m_tabBar->setDrawBase(false);
     m_tabBar->setUsesScrollButtons(true);
@@ -798,6 +820,8 @@ void Ribbon::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::FontChange)
         applyTheme();
+    if (event->type() == QEvent::LanguageChange)
+        nameParts(this, m_tabBar);
     QWidget::changeEvent(event);
 }
 

@@ -17,9 +17,7 @@ frmInputMultiLine::frmInputMultiLine(int languageId, QWidget* parent)
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Ok)->setText(inLanguage(languageId, "ตกลง", "OK"));
     buttons->button(QDialogButtonBox::Cancel)->setText(inLanguage(languageId, "ยกเลิก", "Cancel"));
-    buttons->button(QDialogButtonBox::Ok)->setAccessibleName(QStringLiteral("OK"));
-    buttons->button(QDialogButtonBox::Cancel)->setAccessibleName(QStringLiteral("Cancel"));
-    m_edit->setAccessibleName(QStringLiteral("Text"));
+    m_edit->setAccessibleName(inLanguage(languageId, "ข้อความ", "Text"));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_edit);
     layout->addWidget(buttons);

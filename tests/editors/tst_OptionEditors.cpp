@@ -30,15 +30,10 @@ protected:
     // An editor of the scope named, given the session as the workbench gives it.
     std::unique_ptr<OptionEditor> editor(const QString& scope, const QString& module = "SO")
     {
-        std::unique_ptr<OptionEditor> e;
-        if (scope == "company")
-            e = std::make_unique<CustomOption>();
-        else if (scope == "branch")
-            e = std::make_unique<BranchOption>();
-        else if (scope == "host")
-            e = std::make_unique<HostOption>();
-        else
-            e = std::make_unique<UserOption>();
+        std::unique_ptr<OptionEditor> e(scope == "company" ? static_cast<OptionEditor*>(new CustomOption)
+                : scope == "branch"                       ? new BranchOption
+                : scope == "host"                         ? static_cast<OptionEditor*>(new HostOption)
+                                                          : new UserOption);
         e->setConnectionString(appConnectionString());
         if (auto* host = qobject_cast<HostOption*>(e.get()))
             host->SetLast3("", "HostOption", 1, dataConnectionString(), appConnectionString(), "POS-HQ-01", config.fileName());
@@ -121,6 +116,12 @@ TEST_P(OptionEditorsTest, EachScopeSendsItsOwnStatementsAndStoresUnderItsKey)
     auto branch = editor("branch");
     branch->cmdWhereShow("SOOPTION");
     EXPECT_GT(rowOf(*branch, "SOBranchOldDiscount"), 0);
+    // The company editor finds the module's groups through its options.
+    auto company = editor("company");
+    SqlTrace::Recorder refresh;
+    company->Refresh();
+    EXPECT_EQ(refresh.composed().value(0), "SELECT * FROM QD8VOption WHERE TCmGAlias='SO' ORDER BY TOptSort,TOptAlias");
+    EXPECT_EQ(company->groups().value(0).first, "SOOPTION");
     runOnApp({"INSERT INTO QD8TOption (TOptAlias, TOptTOpGAlias, TOptName, TOptName2, TOptFieldType) VALUES ('JOBCodeCaption', 'NONE', 'ชื่อรหัสงาน', 'Job code caption', 'TEXT')"});
     for (const char* module : {"JOB", "SERVICE", "SO"}) {
         auto company = editor("company", module);
@@ -134,7 +135,6 @@ TEST_P(OptionEditorsTest, ValuesAreEditedByTypeAndRefusedWhenWrong)
     auto e = editor("company", "GL");
     e->cmdWhereShow("GLOPTION");
     EXPECT_EQ(e->grid()->TextMatrix(0, OptionEditor::ColValue), "ค่าที่กำหนด (F2)");
-    EXPECT_EQ(e->grid()->TextMatrix(rowOf(*e, "GLCloseDate"), OptionEditor::ColType), "วันที่ (วว/ดด/ปปปป)");
     EXPECT_EQ(e->grid()->TextMatrix(rowOf(*e, "GLCloseDate"), OptionEditor::ColValue), "31/10/2569");  // Buddhist era in Thai
     EXPECT_EQ(e->grid()->TextMatrix(rowOf(*e, "GLDefaultBook"), OptionEditor::ColType), "F2 เลือกข้อมูล");
     EXPECT_EQ(e->grid()->TextMatrix(rowOf(*e, "EnableGLRefresh"), OptionEditor::ColValue), "Yes");

@@ -24,10 +24,10 @@ bool ScriptedMessages::question(const QString& title, const QString& text)
     return answers.takeFirst();
 }
 
-MessageService::SaveAnswer ScriptedMessages::askToSave(const QString& title, const QString& text, int languageId)
+MessageService::SaveAnswer ScriptedMessages::askToSave(const QString& title, const QString& text)
 {
     shown.append({QStringLiteral("save"), title, text});
-    saveLanguages.append(languageId);
+    saveLanguages.append(language());
     if (saveAnswers.isEmpty()) {
         ADD_FAILURE() << "unscripted save question: " << text.toStdString();
         return SaveAnswer::Cancel;

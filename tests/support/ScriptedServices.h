@@ -21,9 +21,9 @@ public:
     // Answers from the queue; an unscripted question fails the test and answers No.
     bool question(const QString& title, const QString& text) override;
 
-    // Answers from `saveAnswers` (shown as kind "save", the buttons' language in `saveLanguages`);
+    // Answers from `saveAnswers` (shown as kind "save", the service's language then in `saveLanguages`);
     // an unscripted one fails the test and answers Cancel.
-    SaveAnswer askToSave(const QString& title, const QString& text, int languageId) override;
+    SaveAnswer askToSave(const QString& title, const QString& text) override;
 
     QList<bool> answers;
     QList<SaveAnswer> saveAnswers;

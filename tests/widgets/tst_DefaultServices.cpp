@@ -66,38 +66,55 @@ TEST_P(DefaultPickerTest, TypingNarrowsTheListAndEnterReturnsTheHiddenKey)
 
 QD8_ON_BOTH_ENGINES(DefaultPickerTest);
 
-// The Qt message boxes word their buttons in the session language, not the desktop's.
-TEST(DefaultMessages, ButtonsSpeakTheSessionLanguage)
+// The Qt message boxes word their buttons in the session language, not the desktop's, and
+// answer what was clicked.
+TEST(DefaultMessages, ButtonsSpeakTheSessionLanguageAndAnswerWhatWasClicked)
 {
+    using Answer = MessageService::SaveAnswer;
     QtMessageService messages;
-    const struct {
-        int language;
-        bool question;
-        QStringList buttons;  // in the box's order, the default one first
-    } cases[] = {
-        {0, true, {"ไม่ใช่", "ใช่"}},
-        {1, true, {"No", "Yes"}},
-        {0, false, {"ตกลง"}},
-        {1, false, {"OK"}},
+    enum Kind { Information, Question, Save };
+    // The buttons in the box's order, the default one first; the one clicked ("" presses
+    // Escape); the answer (question: 1 Yes; save: the SaveAnswer).
+    const struct { int language; Kind kind; QStringList buttons; const char* click; int answer; } cases[] = {
+        {0, Question, {"ไม่ใช่", "ใช่"}, "ไม่ใช่", 0},
+        {1, Question, {"No", "Yes"}, "Yes", 1},
+        {0, Information, {"ตกลง"}, "ตกลง", 0},
+        {1, Information, {"OK"}, "OK", 0},
+        {0, Save, {"ยกเลิก", "บันทึก", "ไม่บันทึก"}, "บันทึก", int(Answer::Save)},
+        {0, Save, {"ยกเลิก", "บันทึก", "ไม่บันทึก"}, "ไม่บันทึก", int(Answer::Discard)},
+        {1, Save, {"Cancel", "Save", "Discard"}, "Cancel", int(Answer::Cancel)},
+        {1, Save, {"Cancel", "Save", "Discard"}, "", int(Answer::Cancel)},
+        {1, Save, {"Cancel", "Save", "Discard"}, "Discard", int(Answer::Discard)},
     };
     for (const auto& c : cases) {
         messages.setLanguage(c.language);
         QStringList shown;
-        QTimer::singleShot(0, [&shown] {
+        QTimer::singleShot(0, [&shown, &c] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (!box)
                 return ADD_FAILURE() << "no message box is showing";
             shown << box->defaultButton()->text();
-            for (QAbstractButton* button : box->buttons())
+            QAbstractButton* clicked = nullptr;
+            for (QAbstractButton* button : box->buttons()) {
                 if (button != box->defaultButton())
                     shown << button->text();
-            box->defaultButton()->click();
+                if (button->text() == QString::fromUtf8(c.click))
+                    clicked = button;
+            }
+            if (clicked)
+                clicked->click();
+            else
+                QTest::keyClick(box, Qt::Key_Escape);
         });
-        if (c.question)
-            EXPECT_FALSE(messages.question("t", "q"));  // No is the default
+        int answer = 0;
+        if (c.kind == Question)
+            answer = messages.question("t", "q");
+        else if (c.kind == Save)
+            answer = int(messages.askToSave("t", "s"));
         else
             messages.information("t", "i");
-        EXPECT_EQ(shown, c.buttons) << c.language;
+        EXPECT_EQ(shown, c.buttons) << c.language << c.click;
+        EXPECT_EQ(answer, c.answer) << c.language << c.click;
     }
 }
 
