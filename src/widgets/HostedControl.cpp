@@ -94,6 +94,13 @@ void HostedControl::SetLast2(const QString& FolderPathName, const QString& Contr
 
 void HostedControl::announceLanguage()
 {
+    // Controls a form embeds (a voucher panel on an invoice) speak the form's language.
+    for (HostedControl* inner : findChildren<HostedControl*>()) {
+        if (inner->m_session.LanguageID == m_session.LanguageID)
+            continue;
+        inner->m_session.LanguageID = m_session.LanguageID;
+        inner->announceLanguage();
+    }
     // Qt's own signal for "reword yourself": a control rewords what it shows in changeEvent.
     QEvent changed(QEvent::LanguageChange);
     QCoreApplication::sendEvent(this, &changed);
