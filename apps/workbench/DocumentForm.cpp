@@ -1,7 +1,9 @@
 #include "DocumentForm.h"
 
 #include "DocumentAttachments.h"
+#include "accounting/CreditLimit.h"
 #include "accounting/GLControl.h"
+#include "accounting/PointControl.h"
 #include "attachments/HardCopyScan.h"
 #include "database/ClientObject.h"
 #include "database/ListService.h"

