@@ -88,7 +88,7 @@ TEST_P(SalesDocumentTest, AnOrderAboveTheCustomersCreditNeedsTheRightToGoOn)
         EXPECT_EQ(shown.size(), c.saved && !c.answer ? 0 : 1);
         if (!c.saved && !c.answer) {
             ASSERT_FALSE(shown.isEmpty());
-            EXPECT_TRUE(shown[0].text.contains("SOOVERCREDIT")) << shown[0].text;
+            EXPECT_TRUE(shown[0].text.contains("SOOVERCREDIT")) << qPrintable(shown[0].text);
             EXPECT_EQ(form->box("TSODTotalAmount")->text(), c.total);  // nothing lost
         }
     }
