@@ -333,6 +333,16 @@ QString DocumentForm::shownCaption(const DocumentField& field) const
 
 void DocumentForm::retranslate()
 {
+    // The panels on the form speak its language, read from the same user setting.
+    QList<HostedControl*> panels;
+    if (m_sales)
+        panels << m_sales->credit() << m_sales->points();
+    if (m_attachments)
+        panels << m_attachments->strip();
+    for (HostedControl* panel : panels)
+        if (panel->LanguageID() != LanguageID() && !DataConnectionString().isEmpty())
+            panel->SetLast2(session().FolderPathName, panel->objectName(), QString::number(UserID()), DataConnectionString(),
+                AppConnectionString());
     const QString title = inLanguage(LanguageID(), m_definition.title, m_definition.title2);
     m_title->setText(title);
     m_title->setAccessibleName(title);
@@ -390,7 +400,7 @@ void DocumentForm::Setbuttons()
     if (m_voucher)
         m_voucher->attach(*this);
     if (m_sales)
-        m_sales->attach();
+        m_sales->attach(m_mode);
     if (adding() && !m_started)
         startNew();
     const bool writable = adding() || editing();

@@ -38,12 +38,10 @@ DocumentSales::DocumentSales(const DocumentSalesSpec& spec, HostedControl& form)
     connect(m_points, &PointControl::Apply, this, [this] { Q_EMIT saveRequested(); });
 }
 
-void DocumentSales::attach()
+void DocumentSales::attach(const QString& mode)
 {
     m_points->SetFirst(m_form.DataConnectionString(), m_form.UserID(), m_spec.documentGroup, m_spec.pointType);
-    if (m_form.dataObject() && !m_form.DataConnectionString().isEmpty())
-        m_points->SetLast2(m_form.session().FolderPathName, QStringLiteral("PointControl"), QString::number(m_form.UserID()),
-            m_form.DataConnectionString(), m_form.AppConnectionString());
+    m_points->setMODE(mode);
 }
 
 void DocumentSales::customerChanged(const QString& code)

@@ -41,8 +41,8 @@ public:
     const DocumentSalesSpec& spec() const { return m_spec; }
     CreditLimit* credit() const { return m_credit; }
     PointControl* points() const { return m_points; }
-    // Hands the panels the form's session (again after a change of language).
-    void attach();
+    // Hands the panels the form's session and mode.
+    void attach(const QString& mode);
     // The customer typed, picked or loaded.
     void customerChanged(const QString& code);
     // A new document, or the saved one with its number and the point document it spends.

@@ -77,8 +77,10 @@ void CreditLimit::Private::show(Row row, Currency value)
 
 void CreditLimit::Private::retranslate()
 {
-    for (int row = 0; row < RowCount; ++row)
+    for (int row = 0; row < RowCount; ++row) {
         captions[row]->setText(q->bilingual(Captions[row][0], Captions[row][1]));
+        fields[row]->setAccessibleName(captions[row]->text());
+    }
 }
 
 CreditLimit::CreditLimit(QWidget* parent)

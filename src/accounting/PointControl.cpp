@@ -99,8 +99,11 @@ void PointControl::Private::retranslate()
 {
     box->setTitle(QStringLiteral("Use Point Control"));
     const char* texts[6] = {"Point Balance", "Refer No", "Use Point", "Amount", "Pax", "Avail"};
-    for (int i = 0; i < 6; ++i)
+    QLineEdit* fields[6] = {available, number, use, useValue, pax, maxUseValue};
+    for (int i = 0; i < 6; ++i) {
         captions[i]->setText(QString::fromLatin1(texts[i]));
+        fields[i]->setAccessibleName(captions[i]->text());
+    }
     select->setText(QStringLiteral("..."));
     select->setToolTip(q->bilingual("เลือกใบใช้ Point (F2)", "Pick a point document (F2)"));
     addNew->setText(q->bilingual("สร้างใหม่", "New"));
@@ -201,7 +204,15 @@ void PointControl::setPointMaxUseValue(double value) { d->pointMaxUseValue = val
 QString PointControl::CustomerCode() const { return d->mvarCustomerCode; }
 void PointControl::setCustomerCode(const QString& code) { d->mvarCustomerCode = code; }
 QString PointControl::MODE() const { return d->mode; }
-void PointControl::setMODE(const QString& mode) { d->mode = mode; }
+void PointControl::setMODE(const QString& mode)
+{
+    // The point document is chosen while the host document is added or edited.
+    d->mode = mode;
+    const bool writable = mode == QLatin1String("ADD") || mode == QLatin1String("EDIT");
+    d->number->setReadOnly(!writable);
+    d->select->setEnabled(writable);
+    d->apply->setEnabled(writable);
+}
 QString PointControl::documentGroup() const { return d->mvarDocumentGroup; }
 int PointControl::documentType() const { return d->mvarDocumentType; }
 QString PointControl::documentNo() const { return d->mvarDocumentNo; }

@@ -48,6 +48,7 @@ public:
     QString CustomerCode() const;
     void setCustomerCode(const QString& code);
     QString MODE() const;
+    // "ADD" or "EDIT" let the clerk choose a point document; anything else only shows it.
     void setMODE(const QString& mode);
     QString documentGroup() const;
     int documentType() const;
