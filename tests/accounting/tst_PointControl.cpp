@@ -20,17 +20,11 @@ namespace {
 // spending P1.
 const QStringList Fixture = {
     "INSERT INTO QD8TAR (TARNCode, TARNName) VALUES ('C1', 'ลูกค้าหนึ่ง')",
-    "INSERT INTO QD8TPointTrans (TPiTNo, TPiTDate, TPiTType, TPiTTARNCode, TPiTTotalQuantity, TPiTRefNo, TPiTApproveStatus, TPiTCancelStatus) "
-    "VALUES ('P1', '2026-11-01', 1, 'C1', 300, NULL, 1, 0)",
-    "INSERT INTO QD8TPointTrans (TPiTNo, TPiTType, TPiTTARNCode, TPiTRefNo, TPiTApproveStatus, TPiTCancelStatus) VALUES ('P2', 1, 'C1', '', 1, 1)",
-    "INSERT INTO QD8TPointTrans (TPiTNo, TPiTType, TPiTTARNCode, TPiTRefNo, TPiTApproveStatus, TPiTCancelStatus) VALUES ('P3', 1, 'C1', 'SO1', 1, 0)",
-    "INSERT INTO QD8TPointTrans (TPiTNo, TPiTType, TPiTTARNCode, TPiTRefNo, TPiTApproveStatus, TPiTCancelStatus) VALUES ('P4', 1, 'C1', '', 0, 0)",
-    "INSERT INTO QD8TPointTrans (TPiTNo, TPiTType, TPiTTARNCode, TPiTRefNo, TPiTApproveStatus, TPiTCancelStatus) VALUES ('P5', 2, 'C1', '', 1, 0)",
-    "INSERT INTO QD8TPointTrans (TPiTNo, TPiTType, TPiTTARNCode, TPiTRefNo, TPiTApproveStatus, TPiTCancelStatus) VALUES ('P6', 1, 'C1', '', 1, 0)",
-    "INSERT INTO QD8TPointTransSub (TPoTTPitNo, TPoTLn, TPoTQuantity, TPoTPax) VALUES ('P1', 1, -200, 4)",
-    "INSERT INTO QD8TPointTransSub (TPoTTPitNo, TPoTLn, TPoTQuantity, TPoTPax) VALUES ('P1', 2, -100, 0)",
-    "INSERT INTO QD8TSO (TSODNo, TSOType, TSODTARNCode, TInvTJobNo) VALUES ('RO1', 2, 'C1', 'P1')",
-    "INSERT INTO QD8TSO (TSODNo, TSOType, TSODTARNCode, TInvTJobNo) VALUES ('SO9', 0, 'C1', 'P6')",
+    "INSERT INTO QD8TPointTrans (TPiTNo, TPiTType, TPiTTARNCode, TPiTTotalQuantity, TPiTRefNo, TPiTApproveStatus, TPiTCancelStatus) VALUES "
+    "('P1', 1, 'C1', 300, NULL, 1, 0), ('P2', 1, 'C1', 0, '', 1, 1), ('P3', 1, 'C1', 0, 'SO1', 1, 0), ('P4', 1, 'C1', 0, '', 0, 0), "
+    "('P5', 2, 'C1', 0, '', 1, 0), ('P6', 1, 'C1', 0, '', 1, 0)",
+    "INSERT INTO QD8TPointTransSub (TPoTTPitNo, TPoTLn, TPoTQuantity, TPoTPax) VALUES ('P1', 1, -200, 4), ('P1', 2, -100, 0)",
+    "INSERT INTO QD8TSO (TSODNo, TSOType, TSODTARNCode, TInvTJobNo) VALUES ('RO1', 2, 'C1', 'P1'), ('SO9', 0, 'C1', 'P6')",
 };
 
 class PointControlTest : public ScratchTableTest {
