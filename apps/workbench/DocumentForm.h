@@ -100,7 +100,7 @@ struct DocumentDefinition {
     // A document that posts its voucher through a posting format (empty: none).
     DocumentPosting posting;
     // A sales document with the customer's credit and point panels (empty: none).
-    DocumentSalesSpec sales;
+    DocumentSalesFields sales;
 
     bool isMaster() const { return numberPrefix.isEmpty(); }
     // The confirm, approve and cancel flags of a document table ("<prefix>ConfirmStatus"...).

@@ -16,16 +16,16 @@
 
 namespace qd8 {
 
-DocumentSales::DocumentSales(const DocumentSalesSpec& spec, HostedControl& form)
+DocumentSales::DocumentSales(const DocumentSalesFields& fields, HostedControl& form)
     : QObject(&form)
-    , m_spec(spec)
+    , m_fields(fields)
     , m_form(form)
     , m_credit(new CreditLimit(&form))
     , m_points(new PointControl(&form))
 {
     m_credit->setObjectName(QStringLiteral("creditLimit"));
     m_points->setObjectName(QStringLiteral("pointControl"));
-    connect(m_points, &PointControl::AddNew, this, [this](const QString&) { openPointDocument(QStringLiteral("ADD"), {}, m_spec.pointType); });
+    connect(m_points, &PointControl::AddNew, this, [this](const QString&) { openPointDocument(QStringLiteral("ADD"), {}, m_fields.pointType); });
     connect(m_points, &PointControl::OpenDocument, this, [this](const QString&, int type, const QString&, const QString&) {
         const QString number = m_points->PointNo().trimmed();
         if (number.isEmpty())
@@ -40,7 +40,7 @@ DocumentSales::DocumentSales(const DocumentSalesSpec& spec, HostedControl& form)
 
 void DocumentSales::attach(const QString& mode)
 {
-    m_points->SetFirst(m_form.DataConnectionString(), m_form.UserID(), m_spec.documentGroup, m_spec.pointType);
+    m_points->SetFirst(m_form.DataConnectionString(), m_form.UserID(), m_fields.documentGroup, m_fields.pointType);
     m_points->setMODE(mode);
 }
 
@@ -125,7 +125,7 @@ void DocumentSales::record(Connection& data, const QString& table, const QString
     const QString pointNo = m_points->PointNo().trimmed();
     if (pointNo == m_usedBefore)
         return;
-    data.execute(Sql("UPDATE ") + table + " SET " + m_spec.pointField + "=" + quoted(pointNo) + " WHERE " + keyField + "=" + quoted(number));
+    data.execute(Sql("UPDATE ") + table + " SET " + m_fields.pointField + "=" + quoted(pointNo) + " WHERE " + keyField + "=" + quoted(number));
     if (!m_usedBefore.isEmpty())
         data.execute("UPDATE QD8TPointTrans SET TPiTRefNo=NULL WHERE TPiTNo=" + quoted(m_usedBefore) + " AND TPiTRefNo=" + quoted(number));
     if (!pointNo.isEmpty()) {

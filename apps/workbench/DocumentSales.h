@@ -15,7 +15,7 @@ class PointControl;
 // A sales document's customer panels: where the form keeps the customer, the total the
 // credit is checked against and the point document the order spends, and the group and
 // type its point documents are made for.
-struct DocumentSalesSpec {
+struct DocumentSalesFields {
     QString customerField;
     QString totalField;
     QString pointField;     // the column that keeps the point document spent
@@ -36,9 +36,9 @@ class DocumentSales : public QObject {
 public:
     static constexpr const char* OverCreditRight = "SOOVERCREDIT";
 
-    DocumentSales(const DocumentSalesSpec& spec, HostedControl& form);
+    DocumentSales(const DocumentSalesFields& fields, HostedControl& form);
 
-    const DocumentSalesSpec& spec() const { return m_spec; }
+    const DocumentSalesFields& fields() const { return m_fields; }
     CreditLimit* credit() const { return m_credit; }
     PointControl* points() const { return m_points; }
     // Hands the panels the form's session and mode.
@@ -63,7 +63,7 @@ private:
     void showPointBalance();
     QString title() const;
 
-    DocumentSalesSpec m_spec;
+    DocumentSalesFields m_fields;
     HostedControl& m_form;
     CreditLimit* m_credit;
     PointControl* m_points;
