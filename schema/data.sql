@@ -515,6 +515,8 @@ CREATE TABLE QD8TARInvoice (
     PRIMARY KEY (TIvoNo)
 );
 CREATE INDEX QD8XARInvoiceCustomer ON QD8TARInvoice (TIvoTARNCode, TIvoDate);
+-- The credit check's overdue sum, read from the index alone.
+CREATE INDEX QD8XARInvoiceCredit ON QD8TARInvoice (TIvoTARNCode, TIvoCardStatus, TIvoApproveStatus, TIvoCancelStatus, TIvoDate, TIvoArrears);
 
 -- Received cheques. TCHRChqStatus: 0 received, 1 deposited, 2 cleared,
 -- 3 returned. TCHRTotalRate is the cheque amount.
@@ -533,7 +535,8 @@ CREATE TABLE QD8TChequeRec (
     TCHRFlag1 INTEGER DEFAULT 1,
     PRIMARY KEY (TCHRNo)
 );
-CREATE INDEX QD8XChequeRecCustomer ON QD8TChequeRec (TCHRTARNCode, TCHRChqStatus);
+-- With the amount: the credit check sums uncleared cheques from the index alone.
+CREATE INDEX QD8XChequeRecCustomer ON QD8TChequeRec (TCHRTARNCode, TCHRChqStatus, TCHRTotalRate);
 
 -- Products: product lines carry the user-defined names of their four
 -- section levels and four group levels.

@@ -1,6 +1,10 @@
 #include "DocumentForm.h"
 
+#include "DocumentAttachments.h"
+#include "accounting/CreditLimit.h"
 #include "accounting/GLControl.h"
+#include "accounting/PointControl.h"
+#include "attachments/HardCopyScan.h"
 #include "database/ClientObject.h"
 #include "database/ListService.h"
 #include "database/SessionFunctions.h"
@@ -222,7 +226,24 @@ DocumentForm::DocumentForm(const DocumentDefinition& definition, QWidget* parent
     buttons->addWidget(m_close);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(header);
-    buildEntries(layout);
+    if (!m_definition.sales.isEmpty()) {
+        m_sales = new DocumentSales(m_definition.sales, *this);
+        connect(m_sales, &DocumentSales::saveRequested, this, [this] { save(); });
+    }
+    // The fields, the credit panel beside them, the point panel under them.
+    auto* fieldsColumn = new QVBoxLayout;
+    buildEntries(fieldsColumn);
+    auto* body = new QHBoxLayout;
+    body->addLayout(fieldsColumn, 1);
+    if (m_sales)
+        body->addWidget(m_sales->credit(), 0, Qt::AlignTop);
+    layout->addLayout(body);
+    if (m_sales)
+        layout->addWidget(m_sales->points());
+    if (!m_definition.isMaster()) {
+        m_attachments = new DocumentAttachments(*this, m_definition.table, new HardCopyScan(this));
+        buttons->insertWidget(0, m_attachments->strip());
+    }
     if (!m_definition.posting.isEmpty()) {
         m_voucher = std::make_unique<DocumentVoucher>(m_definition.posting, new GLControl(this));
         layout->addWidget(m_voucher->panel(), 1);
@@ -312,6 +333,16 @@ QString DocumentForm::shownCaption(const DocumentField& field) const
 
 void DocumentForm::retranslate()
 {
+    // The panels on the form speak its language, read from the same user setting.
+    QList<HostedControl*> panels;
+    if (m_sales)
+        panels << m_sales->credit() << m_sales->points();
+    if (m_attachments)
+        panels << m_attachments->strip();
+    for (HostedControl* panel : panels)
+        if (panel->LanguageID() != LanguageID() && !DataConnectionString().isEmpty())
+            panel->SetLast2(session().FolderPathName, panel->objectName(), QString::number(UserID()), DataConnectionString(),
+                AppConnectionString());
     const QString title = inLanguage(LanguageID(), m_definition.title, m_definition.title2);
     m_title->setText(title);
     m_title->setAccessibleName(title);
@@ -368,6 +399,8 @@ void DocumentForm::Setbuttons()
     retranslate();
     if (m_voucher)
         m_voucher->attach(*this);
+    if (m_sales)
+        m_sales->attach(m_mode);
     if (adding() && !m_started)
         startNew();
     const bool writable = adding() || editing();
@@ -379,6 +412,8 @@ void DocumentForm::Setbuttons()
     }
     m_save->setVisible(writable);
     m_close->setVisible(true);
+    if (m_attachments)
+        m_attachments->setDocument(adding() ? QString() : m_key, writable);
     focusFirst();
 }
 
@@ -508,6 +543,8 @@ void DocumentForm::startNew()
     keyBox()->setText(key);
     if (m_voucher)
         m_voucher->startNew();
+    if (m_sales)
+        m_sales->startNew();
     markClean();
     m_started = true;
 }
@@ -576,6 +613,8 @@ void DocumentForm::showRow(const Recordset& rs)
     }
     if (m_voucher)
         m_voucher->load(qd8::text(rs.field(m_definition.posting.voucherField)));
+    if (m_sales)
+        m_sales->load(m_key, qd8::text(rs.field(m_definition.sales.pointField)));
     m_loaded = true;
 }
 
@@ -584,6 +623,8 @@ void DocumentForm::showName(Entry& entry)
     if (!entry.name)
         return;
     const QString code = entry.box->text().trimmed();
+    if (m_sales && entry.field.field == m_definition.sales.customerField)
+        m_sales->customerChanged(code);
     entry.name->clear();
     if (code.isEmpty() || code.contains(QLatin1Char('\'')) || DataConnectionString().isEmpty())
         return;
@@ -918,6 +959,8 @@ bool DocumentForm::save()
         messages.critical(title, bad);
         return false;
     }
+    if (m_sales && !m_sales->allowsSave(textOf(m_definition.sales.customerField), amountOf(m_definition.sales.totalField)))
+        return false;
     QString key = keyBox()->text().trimmed();
     try {
         Connection data;
@@ -935,6 +978,8 @@ bool DocumentForm::save()
             writeChanges(data);
         if (m_voucher)
             postVoucher(data, key);
+        if (m_sales)
+            m_sales->record(data, m_definition.table, m_definition.keyField, key);
         transaction.commit();
     } catch (const DbError& error) {
         if (m_voucher)

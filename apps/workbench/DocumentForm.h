@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DocumentSales.h"
 #include "DocumentVoucher.h"
 #include "foundation/DateText.h"
 #include "widgets/HostedControl.h"
@@ -18,6 +19,7 @@ class QVBoxLayout;
 namespace qd8 {
 
 class Connection;
+class DocumentAttachments;
 class Recordset;
 
 // One header field of a document or master form.
@@ -97,6 +99,8 @@ struct DocumentDefinition {
     QHash<QString, QString> fixedOnAdd;
     // A document that posts its voucher through a posting format (empty: none).
     DocumentPosting posting;
+    // A sales document with the customer's credit and point panels (empty: none).
+    DocumentSalesFields sales;
 
     bool isMaster() const { return numberPrefix.isEmpty(); }
     // The confirm, approve and cancel flags of a document table ("<prefix>ConfirmStatus"...).
@@ -238,6 +242,8 @@ private:
     QPushButton* m_save = nullptr;
     QPushButton* m_close = nullptr;
     std::unique_ptr<DocumentVoucher> m_voucher;  // documents that post a voucher
+    DocumentSales* m_sales = nullptr;              // sales documents
+    DocumentAttachments* m_attachments = nullptr;  // documents: the paper copies
 };
 
 } // namespace qd8

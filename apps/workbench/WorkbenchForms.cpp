@@ -64,13 +64,26 @@ void registerDocumentForms()
             {F::supplier("TPODTAPNCode").mandatory(), F::branch("TPODTBraCode"), F::project("TPODTPrjCode"),
                 F::money("TPODTotalAmount", QStringLiteral("ยอดรวม"), QStringLiteral("Total Amount")),
                 F::status("TPODBillStatus", QStringLiteral("รับใบแจ้งหนี้แล้ว"), QStringLiteral("Billed"))}));
-    registerDocument(QStringLiteral("DOCSO"),
-        document("ใบสั่งขาย", "Sales Order", "QD8TSO", "TSOD", "SO",
-            {F::customer("TSODTARNCode").mandatory(), F::text("TSODContactName", QStringLiteral("ผู้ติดต่อ"), QStringLiteral("Contact")),
-                F::branch("TSODTBraCode"), F::project("TSODTPrjCode"),
-                F::employee("TSODSaleCode", QStringLiteral("พนักงานขาย"), QStringLiteral("Salesperson")),
-                F::money("TSODTotalAmount", QStringLiteral("ยอดรวม"), QStringLiteral("Total Amount")),
-                F::status("TSODBillStatus", QStringLiteral("ออกใบแจ้งหนี้แล้ว"), QStringLiteral("Invoiced"))}));
+    // A sales order shows the customer's credit beside him and his points under the fields;
+    // it spends point documents made for sales orders (type 1).
+    DocumentDefinition order = document("ใบสั่งขาย", "Sales Order", "QD8TSO", "TSOD", "SO",
+        {F::customer("TSODTARNCode").mandatory(), F::text("TSODContactName", QStringLiteral("ผู้ติดต่อ"), QStringLiteral("Contact")),
+            F::branch("TSODTBraCode"), F::project("TSODTPrjCode"),
+            F::employee("TSODSaleCode", QStringLiteral("พนักงานขาย"), QStringLiteral("Salesperson")),
+            F::money("TSODTotalAmount", QStringLiteral("ยอดรวม"), QStringLiteral("Total Amount")),
+            F::status("TSODBillStatus", QStringLiteral("ออกใบแจ้งหนี้แล้ว"), QStringLiteral("Invoiced"))});
+    order.sales = {QStringLiteral("TSODTARNCode"), QStringLiteral("TSODTotalAmount"), QStringLiteral("TInvTJobNo"), QStringLiteral("SO"), 1};
+    registerDocument(QStringLiteral("DOCSO"), order);
+    // The point documents a sales order spends (opened from its point panel).
+    DocumentDefinition points{QStringLiteral("ใบใช้ Point"), QStringLiteral("Point Document"), QStringLiteral("QD8TPointTrans"),
+        QStringLiteral("TPiTNo"), QStringLiteral("เลขที่"), QStringLiteral("No."), QStringLiteral("PT"), QStringLiteral("TPiT"), {}, {}, {}};
+    points.fields << F::date("TPiTDate", QStringLiteral("วันที่"), QStringLiteral("Date")).mandatory().startsAs(DocumentField::Initial::Today)
+                  << F::customer("TPiTTARNCode").mandatory()
+                  << F::number("TPiTType", QStringLiteral("ใช้กับเอกสารประเภท"), QStringLiteral("For Document Type"))
+                  << F::number("TPiTTotalQuantity", QStringLiteral("จำนวน Point"), QStringLiteral("Points"))
+                  << F::text("TPiTRefNo", QStringLiteral("ใช้โดยเอกสาร"), QStringLiteral("Used by")).shownOnly()
+                  << F::text("TPiTDescription", QStringLiteral("หมายเหตุ"), QStringLiteral("Note"));
+    registerDocument(QStringLiteral("DOCPOINT"), points.withWorkflowStatuses(QStringLiteral("TPiT")));
     // An invoice posts its voucher (receivable, sales, output VAT) through the posting format
     // ARINVOICE, in the invoice's own transaction.
     const QString net = QStringLiteral("TIvoNetAmount");

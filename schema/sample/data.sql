@@ -939,3 +939,28 @@ INSERT INTO QD8TCustom1 (TCS1Type, TCS1Code, TCS1Name, TCS1Name2, TCS1Flag1, TCS
 INSERT INTO QD8TCustom1 (TCS1Type, TCS1Code, TCS1Name, TCS1Name2, TCS1Flag1, TCS1Flag3) VALUES ('SHIPTERM', '002', 'ลูกค้ารับเอง', 'Collected by the customer', 1, '2026-01-02 09:00:00');
 INSERT INTO QD8TCustom1 (TCS1Type, TCS1Code, TCS1Name, TCS1Name2, TCS1Flag1, TCS1Flag3) VALUES ('SHIPTERM', '003', 'ส่งทางขนส่งเอกชน ลูกค้าชำระค่าขนส่ง', 'Carrier, freight collect', 1, '2026-01-02 09:00:00');
 UPDATE QD8TSO SET TSODTCS1Code='001' WHERE TSODTCS1Code IS NULL;
+-- Credit: what each customer may still use (C004 sells for cash only; C005 is over its
+-- limit), cheques received in every status, and a right to save a sales order above the
+-- customer's credit that only John holds.
+UPDATE QD8TAR SET TARNCreditAvaiBal=420000 WHERE TARNCode='C001';
+UPDATE QD8TAR SET TARNCreditAvaiBal=230000 WHERE TARNCode='C002';
+UPDATE QD8TAR SET TARNCreditAvaiBal=950000 WHERE TARNCode='C003';
+UPDATE QD8TAR SET TARNCreditAvaiBal=-52000 WHERE TARNCode='C005';
+INSERT INTO QD8TChequeRec (TCHRNo, TCHRChqNo, TCHRDate, TCHRChqDate, TCHRTARNCode, TCHRBankCode, TCHRTotalRate, TCHRChqStatus, TCHRTBraCode, TCHRDescription) VALUES ('RC0000001', '1002345', CURRENT_DATE - 5, CURRENT_DATE + 10, 'C001', 'BBL', 40000, 0, 'CNX', 'เช็คล่วงหน้า ค่าปูนซีเมนต์');
+INSERT INTO QD8TChequeRec (TCHRNo, TCHRChqNo, TCHRDate, TCHRChqDate, TCHRTARNCode, TCHRBankCode, TCHRTotalRate, TCHRChqStatus, TCHRTBraCode, TCHRDescription) VALUES ('RC0000002', '1002346', CURRENT_DATE - 3, CURRENT_DATE - 1, 'C001', 'BBL', 25000, 1, 'CNX', 'Deposited, not yet cleared');
+INSERT INTO QD8TChequeRec (TCHRNo, TCHRChqNo, TCHRDate, TCHRChqDate, TCHRTARNCode, TCHRBankCode, TCHRTotalRate, TCHRChqStatus, TCHRTBraCode, TCHRDescription) VALUES ('RC0000003', '5550101', CURRENT_DATE - 40, CURRENT_DATE - 30, 'C002', 'KBANK', 32500, 2, 'HQ', 'เช็คผ่านแล้ว');
+INSERT INTO QD8TChequeRec (TCHRNo, TCHRChqNo, TCHRDate, TCHRChqDate, TCHRTARNCode, TCHRBankCode, TCHRTotalRate, TCHRChqStatus, TCHRTBraCode, TCHRDescription) VALUES ('RC0000004', '5550102', CURRENT_DATE - 20, CURRENT_DATE - 12, 'C002', 'KBANK', 15500, 3, 'HQ', 'Returned: insufficient funds');
+INSERT INTO QD8TChequeRec (TCHRNo, TCHRChqNo, TCHRDate, TCHRChqDate, TCHRTARNCode, TCHRBankCode, TCHRTotalRate, TCHRChqStatus, TCHRTBraCode, TCHRDescription) VALUES ('RC0000005', '7770001', CURRENT_DATE - 2, CURRENT_DATE + 25, 'C003', 'SCB', 13000, 0, 'CNX', 'เช็คล่วงหน้า');
+INSERT INTO QD8TUserRight (TURtTUsrID, TURtTCmdAlias, TURtRun, TURtShow, TURtAdd, TURtDelete, TURtUnPass, TURtCopy, TURtEdit, TURtCheck, TURtPass, TURtPrint) VALUES (2, 'SOOVERCREDIT', 1, 1, 0, 0, 0, 0, 0, 0, 0, 0);
+-- Point documents a sales order (type 1) may spend: free ones, one cancelled, one not yet
+-- approved and one already spent by an order.
+INSERT INTO QD8TPointTrans (TPiTNo, TPiTDate, TPiTType, TPiTTARNCode, TPiTTotalQuantity, TPiTRefNo, TPiTTBraCode, TPiTDescription, TPiTCreateBy, TPiTCreateDate, TPiTConfirmStatus, TPiTApproveStatus, TPiTCancelStatus) VALUES ('PT0000001', CURRENT_DATE - 30, 1, 'C001', 1200, NULL, 'CNX', 'แลกส่วนลดปูนซีเมนต์', 'SOMCHAI', CURRENT_DATE - 30, 1, 1, 0);
+INSERT INTO QD8TPointTrans (TPiTNo, TPiTDate, TPiTType, TPiTTARNCode, TPiTTotalQuantity, TPiTRefNo, TPiTTBraCode, TPiTDescription, TPiTCreateBy, TPiTCreateDate, TPiTConfirmStatus, TPiTApproveStatus, TPiTCancelStatus) VALUES ('PT0000002', CURRENT_DATE - 20, 1, 'C001', 500, '', 'CNX', 'Delivery free of charge', 'JOHN', CURRENT_DATE - 20, 1, 1, 0);
+INSERT INTO QD8TPointTrans (TPiTNo, TPiTDate, TPiTType, TPiTTARNCode, TPiTTotalQuantity, TPiTRefNo, TPiTTBraCode, TPiTDescription, TPiTCreateBy, TPiTCreateDate, TPiTConfirmStatus, TPiTApproveStatus, TPiTCancelStatus) VALUES ('PT0000003', CURRENT_DATE - 15, 1, 'C001', 800, NULL, 'CNX', 'ยกเลิก: ลูกค้าขอเปลี่ยน', 'JOHN', CURRENT_DATE - 15, 1, 1, 1);
+INSERT INTO QD8TPointTrans (TPiTNo, TPiTDate, TPiTType, TPiTTARNCode, TPiTTotalQuantity, TPiTRefNo, TPiTTBraCode, TPiTDescription, TPiTCreateBy, TPiTCreateDate, TPiTConfirmStatus, TPiTApproveStatus, TPiTCancelStatus) VALUES ('PT0000004', CURRENT_DATE - 12, 1, 'C002', 300, 'SO0000006', 'HQ', 'ส่วนลดหม้อหุงข้าว', 'SOMCHAI', CURRENT_DATE - 12, 1, 1, 0);
+INSERT INTO QD8TPointTrans (TPiTNo, TPiTDate, TPiTType, TPiTTARNCode, TPiTTotalQuantity, TPiTRefNo, TPiTTBraCode, TPiTDescription, TPiTCreateBy, TPiTCreateDate, TPiTConfirmStatus, TPiTApproveStatus, TPiTCancelStatus) VALUES ('PT0000005', CURRENT_DATE - 4, 1, 'C002', 450, NULL, 'HQ', 'Awaiting approval', 'SOMCHAI', CURRENT_DATE - 4, 1, 0, 0);
+INSERT INTO QD8TPointTransSub (TPoTTPitNo, TPoTLn, TPoTQuantity, TPoTPax, TPoTValue, TPoTDescription) VALUES ('PT0000001', 1, -1000, 2, 1000, 'ส่วนลด 1,000 บาท');
+INSERT INTO QD8TPointTransSub (TPoTTPitNo, TPoTLn, TPoTQuantity, TPoTPax, TPoTValue, TPoTDescription) VALUES ('PT0000001', 2, -200, 1, 200, 'ส่วนลดค่าขนส่ง');
+INSERT INTO QD8TPointTransSub (TPoTTPitNo, TPoTLn, TPoTQuantity, TPoTPax, TPoTValue, TPoTDescription) VALUES ('PT0000002', 1, -500, 1, 500, 'Free delivery');
+INSERT INTO QD8TPointTransSub (TPoTTPitNo, TPoTLn, TPoTQuantity, TPoTPax, TPoTValue, TPoTDescription) VALUES ('PT0000004', 1, -300, 3, 300, 'ส่วนลด');
+UPDATE QD8TSO SET TInvTJobNo='PT0000004' WHERE TSODNo='SO0000006';

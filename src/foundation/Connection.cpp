@@ -1,4 +1,5 @@
 #include "foundation/Connection.h"
+#include "foundation/SqlRefusal.h"
 
 #include "foundation/Backend.h"
 #include "foundation/ConnectionPool.h"
@@ -12,8 +13,6 @@ struct Connection::State {
     QString connectionString;
     std::unique_ptr<Backend> backend;
 };
-
-namespace {
 
 DbError refusal(const Sql& sql)
 {
@@ -31,6 +30,8 @@ DbError refusal(const Sql& sql)
         .explain(QStringLiteral("ค่า \"%1\" มีเครื่องหมาย ' ซึ่งใช้ไม่ได้").arg(value),
             QStringLiteral("The value \"%1\" holds a single quote ('), which cannot be used").arg(value));
 }
+
+namespace {
 
 // Refusal, dialect rewrite and tracing around one statement.
 template <typename Run>
