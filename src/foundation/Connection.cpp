@@ -13,8 +13,6 @@ struct Connection::State {
     std::unique_ptr<Backend> backend;
 };
 
-namespace {
-
 DbError refusal(const Sql& sql)
 {
     const QString value = sql.brokenValue();
@@ -31,6 +29,8 @@ DbError refusal(const Sql& sql)
         .explain(QStringLiteral("ค่า \"%1\" มีเครื่องหมาย ' ซึ่งใช้ไม่ได้").arg(value),
             QStringLiteral("The value \"%1\" holds a single quote ('), which cannot be used").arg(value));
 }
+
+namespace {
 
 // Refusal, dialect rewrite and tracing around one statement.
 template <typename Run>
