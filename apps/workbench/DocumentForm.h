@@ -18,6 +18,7 @@ class QVBoxLayout;
 namespace qd8 {
 
 class Connection;
+class DocumentPanels;
 class Recordset;
 
 // One header field of a document or master form.
@@ -219,6 +220,8 @@ private:
     QString conflictWith(const Recordset& rs) const;
     void afterSave(const QString& key);
     void setStatusText(const QString& message);
+    // "field: old -> new; ..." of what the clerk changed, for the document's history.
+    QString changedFields() const;
 
     DocumentDefinition m_definition;
     QString m_mode = QStringLiteral("VIEW");
@@ -237,6 +240,7 @@ private:
     QPushButton* m_save = nullptr;
     QPushButton* m_close = nullptr;
     std::unique_ptr<DocumentVoucher> m_voucher;  // documents that post a voucher
+    DocumentPanels* m_panels = nullptr;          // documents: history, and the job of a stock document
 };
 
 } // namespace qd8
