@@ -244,6 +244,12 @@ void GLControl::Private::retranslate()
     descriptionCaption->setText(q->bilingual("คำอธิบาย", "Description"));
     active->setText(q->bilingual("ยืนยันรายการ", "Confirmed"));
     saveZero->setText(q->bilingual("บันทึกรายการยอดเป็น 0", "Save zero lines"));
+    // Screen readers name the boxes by their captions.
+    book->setAccessibleName(bookCaption->text());
+    docNo->setAccessibleName(docCaption->text());
+    description->setAccessibleName(descriptionCaption->text());
+    active->setAccessibleName(active->text());
+    saveZero->setAccessibleName(saveZero->text());
     const int index = method->currentIndex();
     method->clear();
     method->addItems({q->bilingual("ไม่บันทึกบัญชี", "No voucher"), q->bilingual("บันทึกบัญชีเอง", "Keyed lines"),
