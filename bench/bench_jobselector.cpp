@@ -156,21 +156,7 @@ void detail(benchmark::State& state, const BenchDatabase* db)
 
 void rawDetail(benchmark::State& state, const BenchDatabase* db)
 {
-    if (db->isPostgres()) {
-        PGconn* conn = PQconnectdb(("dbname=" + db->name()).toUtf8().constData());
-        for (auto _ : state)
-            for (const char* sql : DetailStatements)
-                readAllLibpq(conn, sql);
-        PQfinish(conn);
-        return;
-    }
-    sqlite3* handle = nullptr;
-    sqlite3_open_v2(db->name().toUtf8().constData(), &handle, SQLITE_OPEN_READONLY, nullptr);
-    registerThaiCollation(handle);
-    for (auto _ : state)
-        for (const char* sql : DetailStatements)
-            readAllSqlite(handle, sql);
-    sqlite3_close(handle);
+    rawReadEach(state, *db, {std::begin(DetailStatements), std::end(DetailStatements)});
 }
 
 } // namespace

@@ -33,13 +33,9 @@ QList<HistoryEvent> readEvents(const QString& connectionString, const Sql& where
 void DocumentHistory::record(Connection& connection, DataObject* numbers, const QString& table, const QString& documentNo,
     const QString& action, const QString& by, const QString& changes, const QString& remark)
 {
-    qint64 id = 0;
-    if (numbers) {
-        id = numbers->takeNumber(QStringLiteral("QD8TDocHistory"), QString(), &connection);
-    } else {
-        auto rows = connection.query(Sql("SELECT MAX(TDcHID) FROM QD8TDocHistory"));
-        id = rows->value(0, 0).toLongLong() + 1;
-    }
+    // One numbering for every writer: the running number, taken inside the transaction.
+    DbDataObject own(connection.connectionString(), QString(), 0);
+    const qint64 id = (numbers ? numbers : &own)->takeNumber(QStringLiteral("QD8TDocHistory"), QString(), &connection);
     const Backend& b = connection.backend();
     QStringList marks;
     for (int i = 1; i <= 8; ++i)

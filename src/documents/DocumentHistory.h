@@ -30,8 +30,8 @@ public:
     static const QString Memo;  // the action of a memorandum
 
     // Writes an event on the caller's connection, inside its transaction, so the event
-    // and the change it tells of are kept or lost together. Its number comes from
-    // `numbers` (the running numbers), else from the largest one stored. DbError.
+    // and the change it tells of are kept or lost together. Its number is the running
+    // number "QD8TDocHistory" (through `numbers` when given). DbError.
     static void record(Connection& connection, DataObject* numbers, const QString& table, const QString& documentNo,
         const QString& action, const QString& by, const QString& changes = {}, const QString& remark = {});
     // The events of one document, oldest first; `action` "" for all. DbError.
