@@ -27,6 +27,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QComboBox>
+#include <QDialog>
 #include <QFile>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -481,15 +482,25 @@ TEST_P(WorkbenchTest, EveryCommandAndEveryRibbonButtonOpensSomethingOrSaysSometh
     auto window = open("SOMCHAI", "AR");
     QStringList opened;
     QObject::connect(window.get(), &WorkbenchWindow::formOpened, [&](const QString& alias) { opened << alias; });
-    // Something visible happened: a tab, a message, a program or page, a choice.
+    // Something visible happened: a tab, a message, a program or page, a choice, a window.
+    const auto windows = [] {
+        QList<QWidget*> shown;
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->isVisible() && qobject_cast<QDialog*>(w))
+                shown << w;
+        return shown;
+    };
     const auto answered = [&](const QString& what, const std::function<void()>& act) {
         const qsizetype messages = scriptedMessages().shown.size(), shell = scriptedShell().commands.size(),
-                        choices = scriptedPicker().choiceTitles.size(), forms = opened.size();
+                        choices = scriptedPicker().choiceTitles.size(), forms = opened.size(), dialogs = windows().size();
         act();
         const QString current = window->tabCommand(window->tabs()->currentIndex());
         EXPECT_TRUE(scriptedMessages().shown.size() > messages || scriptedShell().commands.size() > shell
-            || scriptedPicker().choiceTitles.size() > choices || opened.size() > forms || current == what)
+            || scriptedPicker().choiceTitles.size() > choices || opened.size() > forms || current == what
+            || windows().size() > dialogs)
             << what.toStdString();
+        for (QWidget* w : windows())
+            w->close();
     };
     Connection c;
     c.open(appConnectionString());
