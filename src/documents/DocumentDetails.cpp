@@ -43,7 +43,10 @@ DocumentDetailView::DocumentDetailView(const QStringList& columns, QWidget* pare
     connect(m_list, &QTreeWidget::itemClicked, this, [this] { Q_EMIT Click(); });
 }
 
-DocumentDetailView::~DocumentDetailView() = default;
+DocumentDetailView::~DocumentDetailView()
+{
+    qDeleteAll(m_pending);
+}
 
 QStringList DocumentDetailView::rowTexts() const
 {
@@ -76,12 +79,18 @@ bool DocumentDetailView::eventFilter(QObject* watched, QEvent* event)
 
 void DocumentDetailView::addRow(const QStringList& cells)
 {
-    new QTreeWidgetItem(m_list, cells);
+    m_pending << new QTreeWidgetItem(cells);
+}
+
+void DocumentDetailView::flush()
+{
+    m_list->addTopLevelItems(m_pending);
+    m_pending.clear();
 }
 
 void DocumentDetailView::addDetail(const QString& caption, const QString& value)
 {
-    addRow({QString::number(m_list->topLevelItemCount() + 1), caption, value});
+    addRow({QString::number(m_list->topLevelItemCount() + m_pending.size() + 1), caption, value});
 }
 
 QString DocumentDetailView::optionText(const QString& alias, const QString& connectionString)
@@ -140,7 +149,7 @@ DocumentJob::DocumentJob(QWidget* parent)
 
 void DocumentJob::ShowDocumentJOB(const QString& JobNo, qint32 JobLn, const QString& ConnectionString)
 {
-    list()->clear();
+    const Batch batch(*this);
     try {
         showJob(JobNo, JobLn, ConnectionString);
     } catch (const DbError& error) {
@@ -151,7 +160,7 @@ void DocumentJob::ShowDocumentJOB(const QString& JobNo, qint32 JobLn, const QStr
 void DocumentJob::ShowDocumentJOB2(const QString& JobNo, qint32 JobLn, const QString& ProductionNo, qint32 ProductionLn,
     const QString& ConnectionString)
 {
-    list()->clear();
+    const Batch batch(*this);
     try {
         showJob(JobNo, JobLn, ConnectionString);
         showProduction(ProductionNo, ProductionLn, ConnectionString);
@@ -163,7 +172,7 @@ void DocumentJob::ShowDocumentJOB2(const QString& JobNo, qint32 JobLn, const QSt
 void DocumentJob::ShowDocumentJOB3(const QString& JobNo, qint32 JobLn, const QString& ProductionNo, qint32 ProductionLn,
     const QString& PRNo, qint32 PRLn, const QString& ConnectionString)
 {
-    list()->clear();
+    const Batch batch(*this);
     try {
         showJob(JobNo, JobLn, ConnectionString);
         showProduction(ProductionNo, ProductionLn, ConnectionString);
@@ -278,7 +287,7 @@ DocumentPR::DocumentPR(QWidget* parent)
 
 void DocumentPR::ShowDocumentPR(const QString& PRNo, qint32 PRLn, const QString& ConnectionString)
 {
-    list()->clear();
+    const Batch batch(*this);
     try {
         Connection connection;
         connection.open(ConnectionString);
@@ -327,7 +336,7 @@ void DocumentStatus::ShowDocumentStatus2(int& DisplayMode, int& NotUseNow, QStri
     const QString& WHERE)
 {
     Q_UNUSED(NotUseNow) Q_UNUSED(CancelNoAlias) Q_UNUSED(RecorderCode)
-    list()->clear();
+    const Batch batch(*this);
     const DateEra era = DateLook::forLanguage(LanguageID()).era;
     try {
         Connection connection;

@@ -2,9 +2,8 @@
 
 #include "widgets/HostedControl.h"
 
+#include <QTreeWidget>
 #include <memory>
-
-class QTreeWidget;
 
 namespace qd8 {
 
@@ -31,7 +30,15 @@ Q_SIGNALS:
 protected:
     explicit DocumentDetailView(const QStringList& columns, QWidget* parent);
     bool eventFilter(QObject* watched, QEvent* event) override;
+    // Rows are gathered and handed to the list at once when `Show` ends (one insertion,
+    // not one a row): each Show keeps a Batch for its length.
+    struct Batch {
+        explicit Batch(DocumentDetailView& view) : view(view) { view.list()->clear(); }
+        ~Batch() { view.flush(); }
+        DocumentDetailView& view;
+    };
     void addRow(const QStringList& cells);
+    void flush();
     void addDetail(const QString& caption, const QString& value);
     // The option's text, "" when it cannot be read (no session, a failing read).
     QString optionText(const QString& alias, const QString& connectionString);
@@ -47,6 +54,7 @@ protected:
 
 private:
     QTreeWidget* m_list;
+    QList<class QTreeWidgetItem*> m_pending;
     std::shared_ptr<DataObject> m_ownData;
 };
 
