@@ -2,6 +2,7 @@
 
 #include "foundation/Connection.h"
 #include "foundation/ConnectionPool.h"
+#include "foundation/ThaiCollation.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -161,6 +162,25 @@ int readAllLibpq(pg_conn* connection, const char* sql)
     PQclear(result);
     benchmark::DoNotOptimize(cells.size());
     return rows;
+}
+
+void rawReadEach(benchmark::State& state, const BenchDatabase& db, const std::vector<const char*>& statements)
+{
+    if (db.isPostgres()) {
+        PGconn* conn = PQconnectdb(("dbname=" + db.name()).toUtf8().constData());
+        for (auto _ : state)
+            for (const char* sql : statements)
+                readAllLibpq(conn, sql);
+        PQfinish(conn);
+        return;
+    }
+    sqlite3* handle = nullptr;
+    sqlite3_open_v2(db.name().toUtf8().constData(), &handle, SQLITE_OPEN_READONLY, nullptr);
+    registerThaiCollation(handle);
+    for (auto _ : state)
+        for (const char* sql : statements)
+            readAllSqlite(handle, sql);
+    sqlite3_close(handle);
 }
 
 namespace {

@@ -6,6 +6,7 @@
 #include <benchmark/benchmark.h>
 #include <functional>
 #include <memory>
+#include <vector>
 
 struct sqlite3;
 struct pg_conn;
@@ -52,6 +53,10 @@ struct Ratio {
     QString floor;
     double target;
 };
+
+// The floor of a control that reads several statements: every row of each, per iteration,
+// through the engine's C API on a connection of its own.
+void rawReadEach(benchmark::State& state, const BenchDatabase& db, const std::vector<const char*>& statements);
 
 // Runs the registered benchmarks (give them Repetitions: the fastest counts), then prints
 // one line per ratio:

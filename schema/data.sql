@@ -970,6 +970,23 @@ CREATE TABLE QD8TInventory (
 );
 CREATE INDEX QD8XInventoryDate ON QD8TInventory (TInvDate);
 
+-- The history of every document the workbench forms save: who did what when
+-- (TDcHAction 'Create', 'Edit', 'Confirm', 'Approve', 'Reject', 'Cancel'), what
+-- an edit changed ("field: old -> new; ..."), and memoranda ('Memo', the note
+-- in TDcHRemark). TDcHTable and TDcHDocNo name the document.
+CREATE TABLE QD8TDocHistory (
+    TDcHID INTEGER NOT NULL,
+    TDcHTable VARCHAR(50) NOT NULL,
+    TDcHDocNo VARCHAR(30) NOT NULL,
+    TDcHAction VARCHAR(20) NOT NULL,
+    TDcHDate TIMESTAMP,
+    TDcHBy VARCHAR(50),
+    TDcHChanges VARCHAR(4000),
+    TDcHRemark VARCHAR(500) COLLATE THAI,
+    PRIMARY KEY (TDcHID)
+);
+CREATE INDEX QD8XDocHistoryDoc ON QD8TDocHistory (TDcHTable, TDcHDocNo);
+
 -- Purchase requests: header and lines. A line may be requested for a job line.
 -- TPRDTDivCode/TPRDTDepCode: the division and department that ask.
 CREATE TABLE QD8TPR (

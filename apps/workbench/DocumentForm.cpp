@@ -1,6 +1,7 @@
 #include "DocumentForm.h"
 
 #include "DocumentAttachments.h"
+#include "DocumentPanels.h"
 #include "accounting/CreditLimit.h"
 #include "accounting/GLControl.h"
 #include "accounting/PointControl.h"
@@ -247,8 +248,13 @@ DocumentForm::DocumentForm(const DocumentDefinition& definition, QWidget* parent
     if (!m_definition.posting.isEmpty()) {
         m_voucher = std::make_unique<DocumentVoucher>(m_definition.posting, new GLControl(this));
         layout->addWidget(m_voucher->panel(), 1);
-    } else {
+    } else if (!DocumentPanels::wanted(m_definition)) {
         layout->addStretch(1);
+    }
+    if (DocumentPanels::wanted(m_definition)) {
+        m_panels = new DocumentPanels(m_definition, this);
+        layout->addWidget(m_panels, 1);
+        connect(m_panels, &DocumentPanels::changed, this, [this] { FillData(); });
     }
     layout->addLayout(buttons);
 
@@ -401,6 +407,8 @@ void DocumentForm::Setbuttons()
         m_voucher->attach(*this);
     if (m_sales)
         m_sales->attach(m_mode);
+    if (m_panels)
+        m_panels->attach();
     if (adding() && !m_started)
         startNew();
     const bool writable = adding() || editing();
@@ -410,6 +418,8 @@ void DocumentForm::Setbuttons()
         const bool isKey = entry.field.field == m_definition.keyField;
         entry.box->setReadOnly(!writable || entry.field.readOnly || !entry.field.sumOf.isEmpty() || (isKey && !adding()));
     }
+    if (m_panels)
+        m_panels->setWritable(writable);
     m_save->setVisible(writable);
     m_close->setVisible(true);
     if (m_attachments)
@@ -422,6 +432,8 @@ void DocumentForm::FillData()
     retranslate();
     if (m_voucher)
         m_voucher->attach(*this);
+    if (m_panels)
+        m_panels->attach();
     if (adding())
         startNew();
     else
@@ -541,6 +553,8 @@ void DocumentForm::startNew()
         }
     }
     keyBox()->setText(key);
+    if (m_panels)
+        m_panels->startNew(m_definition.fixedOnAdd.value(m_definition.auditPrefix + QStringLiteral("TCodAlias")));
     if (m_voucher)
         m_voucher->startNew();
     if (m_sales)
@@ -582,6 +596,8 @@ void DocumentForm::loadRow()
             Services::messages().critical(m_title->text(), bilingual("ไม่พบ %1 %2", "%1 %2 was not found").arg(shownCaption(m_entries.first().field), key));
         } else {
             showRow(rs);
+            if (m_panels)
+                m_panels->load(key);
         }
     } catch (const DbError& error) {
         Services::messages().critical(m_title->text(), error.report(LanguageID()));
@@ -939,6 +955,15 @@ void DocumentForm::writeChanges(Connection& data)
     rs.update();
 }
 
+QString DocumentForm::changedFields() const
+{
+    QStringList parts;
+    for (const Entry& entry : m_entries)
+        if (entry.box && !entry.box->isReadOnly() && entry.box->text() != entry.clean)
+            parts << entry.field.field + QStringLiteral(": ") + entry.clean + QStringLiteral(" -> ") + entry.box->text();
+    return parts.join(QStringLiteral("; "));
+}
+
 bool DocumentForm::save()
 {
     if (!adding() && !editing())
@@ -955,6 +980,8 @@ bool DocumentForm::save()
         refillVoucher();
         bad = m_voucher->problem(parseDate(textOf(m_definition.auditPrefix + QStringLiteral("Date")), m_dateLook.era).value_or(QDate()));
     }
+    if (bad.isEmpty() && m_panels)
+        bad = m_panels->problem();
     if (!bad.isEmpty()) {
         messages.critical(title, bad);
         return false;
@@ -962,6 +989,7 @@ bool DocumentForm::save()
     if (m_sales && !m_sales->allowsSave(textOf(m_definition.sales.customerField), amountOf(m_definition.sales.totalField)))
         return false;
     QString key = keyBox()->text().trimmed();
+    const QString changes = editing() ? changedFields() : QString();
     try {
         Connection data;
         data.open(DataConnectionString());
@@ -980,6 +1008,8 @@ bool DocumentForm::save()
             postVoucher(data, key);
         if (m_sales)
             m_sales->record(data, m_definition.table, m_definition.keyField, key);
+        if (m_panels)
+            m_panels->write(data, key, adding(), changes);
         transaction.commit();
     } catch (const DbError& error) {
         if (m_voucher)

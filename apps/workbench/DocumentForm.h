@@ -20,6 +20,7 @@ namespace qd8 {
 
 class Connection;
 class DocumentAttachments;
+class DocumentPanels;
 class Recordset;
 
 // One header field of a document or master form.
@@ -224,6 +225,8 @@ private:
     QString conflictWith(const Recordset& rs) const;
     void afterSave(const QString& key);
     void setStatusText(const QString& message);
+    // "field: old -> new; ..." of what the clerk changed, for the document's history.
+    QString changedFields() const;
 
     DocumentDefinition m_definition;
     QString m_mode = QStringLiteral("VIEW");
@@ -244,6 +247,7 @@ private:
     std::unique_ptr<DocumentVoucher> m_voucher;  // documents that post a voucher
     DocumentSales* m_sales = nullptr;              // sales documents
     DocumentAttachments* m_attachments = nullptr;  // documents: the paper copies
+    DocumentPanels* m_panels = nullptr;          // documents: history, and the job of a stock document
 };
 
 } // namespace qd8

@@ -1,6 +1,7 @@
 #include "WorkbenchForms.h"
 
 #include "DocumentForm.h"
+#include "MemoForms.h"
 #include "TableListForm.h"
 #include "VoucherForm.h"
 #include "documents/DucumentList.h"
@@ -190,6 +191,7 @@ void registerWorkbenchForms()
     // The document and master forms the lists open; the general journal's is the voucher form.
     registerDocumentForms();
     FormRegistry::registerForm(QStringLiteral("DOCGL"), [](QWidget* parent) { return new VoucherForm(parent); });
+    registerMemoForms();
 }
 
 } // namespace qd8

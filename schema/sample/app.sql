@@ -227,6 +227,8 @@ INSERT INTO QD8TCommand (TCmdID, TCmdAlias, TCmdName, TCmdName2, TCmdTCmGAlias, 
 -- key from its code.
 INSERT INTO QD8TCode (TCodAlias, TCodName, TCodName2, TCodTCmGAlias, TCodTable, TCodPrimaryKey, TCodJobMode, TCodMDSMode, TCodPDMode, TCodSort, TCodFlag1) VALUES ('ICISSUEUSE', 'ใบเบิกสินค้า', 'Stock Issue', 'IC', 'QD8TInventory', 'TInvNo', 0, 0, 0, 1, 1);
 INSERT INTO QD8TCode (TCodAlias, TCodName, TCodName2, TCodTCmGAlias, TCodTable, TCodPrimaryKey, TCodJobMode, TCodMDSMode, TCodPDMode, TCodSort, TCodFlag1) VALUES ('ICTRANSFER', 'ใบโอนย้ายสินค้า', 'Stock Transfer', 'IC', 'QD8TInventory', 'TInvNo', 0, 0, 0, 2, 1);
+INSERT INTO QD8TCode (TCodAlias, TCodName, TCodName2, TCodTCmGAlias, TCodTable, TCodPrimaryKey, TCodJobMode, TCodMDSMode, TCodPDMode, TCodSort, TCodFlag1) VALUES ('ICISSUEJOB', 'ใบเบิกสินค้าเข้างาน', 'Issue to a Job Step', 'IC', 'QD8TInventory', 'TInvNo', 2, 1, 0, 3, 1);
+INSERT INTO QD8TCode (TCodAlias, TCodName, TCodName2, TCodTCmGAlias, TCodTable, TCodPrimaryKey, TCodJobMode, TCodMDSMode, TCodPDMode, TCodSort, TCodFlag1) VALUES ('ICISSUEPD', 'ใบเบิกสินค้าเข้าใบสั่งผลิต', 'Issue to a Production Order', 'IC', 'QD8TInventory', 'TInvNo', 0, 0, 2, 4, 1);
 
 -- Options of the document lists: the purchase-request variant (PURPRMenu not 0 lists
 -- requests by department, definition PURPRMB) and the alert days of the legends.

@@ -60,7 +60,7 @@ void PickListModel::load(const PickRequest& request)
     m_cursor.close();
     m_columns.clear();
     m_shown.clear();
-    m_keyColumn = -1;
+    m_keyColumns.clear();
     m_notice.clear();
     m_failed = false;
     m_loaded = 0;
@@ -103,10 +103,22 @@ void PickListModel::load(const PickRequest& request)
         QList<Column> columns;
         QList<GridColumn> shown;
         for (qsizetype i = 0; i < fields.size(); ++i) {
-            const QString labelList = request.labelLists.value(i);
-            shown << GridColumn::fromDefinition(captions[i], widths[i],
+            QString labelList = request.labelLists.value(i);
+            QString caption = captions[i];
+            // Type 13 carries its labels in the caption: "Type;MRP;;;SE" labels the codes
+            // 0 and 3 (an empty entry has no label).
+            if (labelList.isEmpty() && types[i].trimmed() == QLatin1String("13") && caption.contains(QLatin1Char(';'))) {
+                const QStringList parts = caption.split(QLatin1Char(';'));
+                caption = parts.first();
+                QStringList labels;
+                for (qsizetype code = 1; code < parts.size(); ++code)
+                    if (!parts[code].isEmpty())
+                        labels << QString::number(code - 1) + QLatin1Char(';') + parts[code];
+                labelList = labels.join(QLatin1Char(','));
+            }
+            shown << GridColumn::fromDefinition(caption, widths[i],
                 labelList.isEmpty() ? QStringLiteral("TEXT") : QStringLiteral("LABELLIST"), 0, -1, labelList);
-            columns.append({fields[i].trimmed(), captions[i], widths[i], types[i].trimmed() == QLatin1String("0") || !labelList.isEmpty(), -1,
+            columns.append({fields[i].trimmed(), caption, widths[i], types[i].trimmed() == QLatin1String("0") || !labelList.isEmpty(), -1,
                 shown.last().labels});
         }
         m_columns = columns;
@@ -124,18 +136,24 @@ void PickListModel::load(const PickRequest& request)
                 throw DbError(DbError::Kind::Usage,
                     QStringLiteral("The field \"%1\" is not among the columns of \"%2\"").arg(m_columns[c].field, request.source));
         }
-        const QString key = request.keyField.trimmed();
-        for (int c = 0; c < m_columns.size() && m_keyColumn < 0; ++c) {
-            if (m_columns[c].field.compare(key, Qt::CaseInsensitive) == 0)
-                m_keyColumn = c;
+        // A key list "A;B;C" returns the values of those columns joined by ";" (the job
+        // selector's pick lists return several columns of the row picked).
+        for (const QString& part : request.keyField.split(QLatin1Char(';'))) {
+            const QString key = part.trimmed();
+            int found = -1;
+            for (int c = 0; c < m_columns.size() && found < 0; ++c) {
+                if (m_columns[c].field.compare(key, Qt::CaseInsensitive) == 0)
+                    found = c;
+            }
+            for (int c = 0; c < m_columns.size() && found < 0 && !key.isEmpty(); ++c) {
+                if (m_cursor.columnName(m_columns[c].cursorColumn).compare(key, Qt::CaseInsensitive) == 0)
+                    found = c;
+            }
+            if (found < 0)
+                throw DbError(DbError::Kind::Usage,
+                    QStringLiteral("The key field \"%1\" is not in the field list \"%2\"").arg(key, request.fieldList));
+            m_keyColumns << found;
         }
-        for (int c = 0; c < m_columns.size() && m_keyColumn < 0 && !key.isEmpty(); ++c) {
-            if (m_cursor.columnName(m_columns[c].cursorColumn).compare(key, Qt::CaseInsensitive) == 0)
-                m_keyColumn = c;
-        }
-        if (m_keyColumn < 0)
-            throw DbError(DbError::Kind::Usage,
-                QStringLiteral("The key field \"%1\" is not in the field list \"%2\"").arg(request.keyField, request.fieldList));
 
         // Searched: the shown text columns; a list that shows no text searches what it shows.
         for (int c = 0; c < m_columns.size(); ++c) {
@@ -149,7 +167,7 @@ void PickListModel::load(const PickRequest& request)
         m_loaded = int(m_cursor.rowCount());
     } catch (...) {
         m_cursor.close();
-        m_keyColumn = -1;
+        m_keyColumns.clear();
         m_failed = true;
         m_loaded = 0;
         endResetModel();
@@ -160,9 +178,12 @@ void PickListModel::load(const PickRequest& request)
 
 QString PickListModel::keyAt(int row) const
 {
-    if (row < 0 || row >= rowCount() || m_keyColumn < 0)
+    if (row < 0 || row >= rowCount() || m_keyColumns.isEmpty())
         return {};
-    return text(m_cursor.value(sourceRow(row), m_columns[m_keyColumn].cursorColumn));
+    QStringList values;
+    for (int column : m_keyColumns)
+        values << text(m_cursor.value(sourceRow(row), m_columns[column].cursorColumn));
+    return values.join(QLatin1Char(';'));
 }
 
 QString PickListModel::cellText(qsizetype sourceRow, int column) const

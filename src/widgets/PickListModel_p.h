@@ -45,8 +45,8 @@ public:
     const QString& notice() const { return m_notice; }
 
     const QList<Column>& columns() const { return m_columns; }
-    int keyColumn() const { return m_keyColumn; }
-    // The key field's value of a shown row as text ("" for NULL).
+    // The key field's value of a shown row as text ("" for NULL); for a key list "A;B"
+    // the values joined by ";".
     QString keyAt(int row) const;
     // What a cell shows: its stored value as text, a label list's label for its code.
     QString shownText(int row, int column) const;
@@ -84,7 +84,7 @@ private:
 
     QList<Column> m_columns;
     QList<GridColumn> m_shown;  // per column: how a stored value is shown
-    int m_keyColumn = -1;
+    QList<int> m_keyColumns;
     QString m_notice;
     Cursor m_cursor;
     bool m_failed = false;

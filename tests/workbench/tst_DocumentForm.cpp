@@ -4,12 +4,16 @@
 #include "VoucherForm.h"
 #include "WorkbenchForms.h"
 #include "accounting/GLControl.h"
+#include "documents/DocumentDetails.h"
+#include "documents/DocumentHistory.h"
+#include "documents/JobSelector.h"
 #include "widgets/DateEdit.h"
 #include "widgets/GridEditor.h"
 #include "WorkbenchSession.h"
 #include "WorkbenchWindow.h"
 #include "accounting/GLControl.h"
 #include "foundation/Connection.h"
+#include "foundation/DateText.h"
 #include "foundation/Recordset.h"
 
 #include <QAbstractItemView>
@@ -565,6 +569,62 @@ TEST_P(DocumentFormTest, TheVoucherFormBalancesSavesAndReopensAVoucher)
     EXPECT_EQ(again->panel()->GETGLList().size(), 2);
     EXPECT_EQ(again->panel()->GETSumCredit(), *Currency::parse(u"1500.25"));
     EXPECT_EQ(again->dateBox()->date(), QDate::currentDate());
+}
+
+TEST_P(DocumentFormTest, TheGoodsIssueTakesAJobStepRefusesToSaveWithoutItAndKeepsItsHistory)
+{
+    logIn("SOMCHAI");
+    const FormCase& c = formCase("DOCISSUE");
+    QWidget* form = openAsList(c, "EDIT", "IS0000901");
+    ASSERT_TRUE(form);
+    auto* selector = form->findChild<JobSelector*>("jobSelector");
+    ASSERT_TRUE(selector);
+    EXPECT_EQ(selector->JobNo() + "/" + QString::number(selector->JobLn()) + " " + selector->ProcessCode(), "JOB0000001/1 ST10");
+    EXPECT_EQ(form->findChild<DocumentJob*>("jobDetail")->rowTexts().value(1), "ใบสั่งงาน|JOB0000001");
+    EXPECT_EQ(form->findChild<DocumentStatus*>("history")->rowTexts().size(), 9);
+
+    // ICISSUEJOB asks for a job line and its step.
+    selector->Clear();
+    retype(box(form, c.textField), QStringLiteral("เบิกเข้าขั้นตอนประกอบ"));
+    pressSave(form, c);
+    EXPECT_EQ(criticals().value(0), "กรุณาเลือก ใบสั่งงาน");
+    EXPECT_EQ(cell(c, "IS0000901", "TInvTJobNo"), "JOB0000001");
+    scriptedMessages().reset();
+    ASSERT_TRUE(selector->enterJob("JC-002"));
+    pressSave(form, c);
+    EXPECT_EQ(criticals().value(0), "กรุณาเลือก ขั้นตอน");
+    ASSERT_TRUE(selector->enterStep("ST30"));
+    scriptedMessages().reset();
+    pressSave(form, c);
+    EXPECT_TRUE(criticals().isEmpty()) << criticals().join('\n').toStdString();
+    EXPECT_EQ(cell(c, "IS0000901", "TInvTJobNo") + "/" + cell(c, "IS0000901", "TInvTJstLn") + "/" + cell(c, "IS0000901", "TInvTJPDNo"),
+        "JOB0000002/2/");
+    QList<HistoryEvent> events = DocumentHistory::read(dataConnectionString(), "QD8TInventory", "IS0000901");
+    ASSERT_EQ(events.size(), 5);
+    EXPECT_EQ(events.last().action + " " + events.last().by, "Edit SOMCHAI");
+    EXPECT_TRUE(events.last().changes.contains("TInvDescription: เบิกแผ่นสเตนเลสเข้าขั้นตอนตัด -> เบิกเข้าขั้นตอนประกอบ"));
+
+    // A workflow step sets the header and writes the event in one go; a cancelled
+    // document takes no further step.
+    scriptedPicker().textAnswers = {QStringLiteral("เบิกซ้ำ")};
+    QTest::mouseClick(form->findChild<QPushButton*>("Cancel"), Qt::LeftButton);
+    EXPECT_EQ(cell(c, "IS0000901", "TInvCancelStatus") + " " + cell(c, "IS0000901", "TInvCancelNote"), "1 เบิกซ้ำ");
+    QTest::mouseClick(form->findChild<QPushButton*>("Confirm"), Qt::LeftButton);
+    events = DocumentHistory::read(dataConnectionString(), "QD8TInventory", "IS0000901");
+    ASSERT_EQ(events.size(), 6);
+    EXPECT_EQ(events.last().action + " " + events.last().remark, "Cancel เบิกซ้ำ");
+    EXPECT_TRUE(form->findChild<DocumentStatus*>("history")->rowTexts().contains(
+        QStringLiteral("Cancel|%1|SOMCHAI|สมชาย ใจดี|เบิกซ้ำ").arg(dateTimeText(events.last().when, DateEra::Buddhist))));
+
+    // A new document of any kind is created with its event.
+    const FormCase& pr = formCase("DOCPR");
+    QWidget* add = openAsList(pr, "ADD", QString());
+    retype(box(add, pr.textField), QStringLiteral("ขอซื้อวัตถุดิบ"));
+    pressSave(add, pr);
+    const QString added = box(add, pr.keyField)->text();
+    events = DocumentHistory::read(dataConnectionString(), "QD8TPR", added);
+    ASSERT_EQ(events.size(), 1);
+    EXPECT_EQ(events.first().action, "Create");
 }
 
 QD8_ON_BOTH_ENGINES(DocumentFormTest);

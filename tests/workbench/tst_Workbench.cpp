@@ -4,6 +4,7 @@
 #include "DocumentForm.h"
 #include "ListPrinter.h"
 #include "LoginDialog.h"
+#include "MemoForms.h"
 #include "TableListForm.h"
 #include "WorkbenchForms.h"
 #include "WorkbenchSession.h"
@@ -30,8 +31,12 @@
 #include <QComboBox>
 #include <QDir>
 #include <QTimer>
+#include <QDialog>
 #include <QFile>
 #include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTreeWidget>
 #include <QListWidget>
 #include <QPrintPreviewWidget>
 #include <QPushButton>
@@ -539,15 +544,25 @@ TEST_P(WorkbenchTest, EveryCommandAndEveryRibbonButtonOpensSomethingOrSaysSometh
     auto window = open("SOMCHAI", "AR");
     QStringList opened;
     QObject::connect(window.get(), &WorkbenchWindow::formOpened, [&](const QString& alias) { opened << alias; });
-    // Something visible happened: a tab, a message, a program or page, a choice.
+    // Something visible happened: a tab, a message, a program or page, a choice, a window.
+    const auto windows = [] {
+        QList<QWidget*> shown;
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (w->isVisible() && qobject_cast<QDialog*>(w))
+                shown << w;
+        return shown;
+    };
     const auto answered = [&](const QString& what, const std::function<void()>& act) {
         const qsizetype messages = scriptedMessages().shown.size(), shell = scriptedShell().commands.size(),
-                        choices = scriptedPicker().choiceTitles.size(), forms = opened.size();
+                        choices = scriptedPicker().choiceTitles.size(), forms = opened.size(), dialogs = windows().size();
         act();
         const QString current = window->tabCommand(window->tabs()->currentIndex());
         EXPECT_TRUE(scriptedMessages().shown.size() > messages || scriptedShell().commands.size() > shell
-            || scriptedPicker().choiceTitles.size() > choices || opened.size() > forms || current == what)
+            || scriptedPicker().choiceTitles.size() > choices || opened.size() > forms || current == what
+            || windows().size() > dialogs)
             << what.toStdString();
+        for (QWidget* w : windows())
+            w->close();
     };
     Connection c;
     c.open(appConnectionString());
@@ -579,6 +594,48 @@ TEST_P(WorkbenchTest, EveryCommandAndEveryRibbonButtonOpensSomethingOrSaysSometh
     ribbon->button("CALC")->click();
     ASSERT_EQ(scriptedMessages().shown.size(), 1);
     EXPECT_TRUE(scriptedMessages().shown[0].text.contains("Calc.exe"));
+}
+
+TEST_P(WorkbenchTest, TheRibbonsMemorandumFormsNoteListAndRemoveAndTheSearchOpensTheDocument)
+{
+    installScriptedServices();
+    auto window = open("SOMCHAI", "IC");
+    auto form = [&](const char* name) {
+        auto* f = qobject_cast<MemoForm*>(FormRegistry::create(QString::fromLatin1(name), window.get()));
+        EXPECT_TRUE(f) << name;
+        return std::unique_ptr<MemoForm>(f);
+    };
+    auto entry = form("MemoEntry");
+    EXPECT_EQ(entry->windowTitle(), "Memorandum");
+    entry->findChild<QLineEdit*>("Text4")->setText("PD0000001");
+    entry->findChild<QPlainTextEdit*>("txtNote")->setPlainText("ตรวจวัตถุดิบก่อนผลิต");
+    ASSERT_TRUE(entry->select());
+    entry->findChild<QLineEdit*>("Text4")->setText("NO-SUCH");
+    EXPECT_FALSE(entry->select());  // no document of that number: said so, nothing written
+
+    auto dashboard = form("MemoViewer");
+    EXPECT_EQ(dashboard->windowTitle(), "Memorandum Dashboard");
+    auto* list = dashboard->findChild<QTreeWidget*>("List1");
+    ASSERT_EQ(list->topLevelItemCount(), 3);
+    EXPECT_EQ(list->topLevelItem(0)->text(3) + " " + list->topLevelItem(0)->text(4), "PD0000001 ตรวจวัตถุดิบก่อนผลิต");
+
+    auto removal = form("MemoRemoval");
+    EXPECT_EQ(removal->windowTitle(), "Remove Memorandom");
+    removal->findChild<QLineEdit*>("Text4")->setText(list->topLevelItem(0)->text(0));
+    scriptedMessages().answers = {true};
+    ASSERT_TRUE(removal->select());
+    dashboard->reload();
+    EXPECT_EQ(list->topLevelItemCount(), 2);
+
+    auto search = form("DocumentSearch");
+    EXPECT_EQ(search->windowTitle(), "Search Document");
+    search->findChild<QLineEdit*>("Text4")->setText("IS0000901");
+    const int tabs = window->tabs()->count();
+    ASSERT_TRUE(search->select());
+    ASSERT_EQ(window->tabs()->count(), tabs + 1);
+    auto* document = qobject_cast<DocumentForm*>(window->tabs()->currentWidget());
+    ASSERT_TRUE(document);
+    EXPECT_EQ(document->keyBox()->text(), "IS0000901");
 }
 
 QD8_ON_BOTH_ENGINES(WorkbenchTest);
