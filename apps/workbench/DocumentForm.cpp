@@ -339,16 +339,10 @@ QString DocumentForm::shownCaption(const DocumentField& field) const
 
 void DocumentForm::retranslate()
 {
-    // The panels on the form speak its language, read from the same user setting.
-    QList<HostedControl*> panels;
-    if (m_sales)
-        panels << m_sales->credit() << m_sales->points();
-    if (m_attachments)
-        panels << m_attachments->strip();
-    for (HostedControl* panel : panels)
-        if (panel->LanguageID() != LanguageID() && !DataConnectionString().isEmpty())
-            panel->SetLast2(session().FolderPathName, panel->objectName(), QString::number(UserID()), DataConnectionString(),
-                AppConnectionString());
+    // Embedded controls follow the form's language by themselves (HostedControl); the
+    // panels' own tabs and buttons are worded here.
+    if (m_panels)
+        m_panels->retranslate();
     const QString title = inLanguage(LanguageID(), m_definition.title, m_definition.title2);
     m_title->setText(title);
     m_title->setAccessibleName(title);

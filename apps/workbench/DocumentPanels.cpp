@@ -79,11 +79,11 @@ bool DocumentPanels::wanted(const DocumentDefinition& definition)
 
 void DocumentPanels::retranslate()
 {
-    const bool thai = m_form->LanguageID() == 0;
     int tab = 0;
     if (m_selector)
-        setTabText(tab++, thai ? QStringLiteral("ใบสั่งงาน") : QStringLiteral("Job"));
-    setTabText(tab, thai ? QStringLiteral("ประวัติเอกสาร") : QStringLiteral("History"));
+        setTabText(tab++, m_form->bilingual("ใบสั่งงาน", "Job"));
+    setTabText(tab, m_form->bilingual("ประวัติเอกสาร", "History"));
+    setAccessibleName(m_form->bilingual("ข้อมูลประกอบเอกสาร", "Document details"));
     const char* words[][2] = {{"ยืนยัน", "Confirm"}, {"อนุมัติ", "Approve"}, {"ไม่อนุมัติ", "Reject"}, {"ยกเลิกเอกสาร", "Cancel"}};
     for (int i = 0; i < m_steps.size(); ++i)
         m_steps[i]->setText(m_form->bilingual(words[i][0], words[i][1]));

@@ -44,6 +44,8 @@ public:
     // A workflow step on the loaded document ("Confirm", "Approve", "Reject", "Cancel"):
     // its statuses and its history in one transaction; false when refused or failed.
     bool step(const QString& action);
+    // Tabs, buttons and names in the form's language.
+    void retranslate();
 
 Q_SIGNALS:
     void changed();
@@ -51,7 +53,6 @@ Q_SIGNALS:
 private:
     void showDetail();
     void showHistory();
-    void retranslate();
 
     const DocumentDefinition& m_definition;
     HostedControl* m_form;

@@ -28,10 +28,13 @@ QString fieldText(const Recordset& rs, const QString& field)
 
 // --- DocumentDetailView ------------------------------------------------------------------
 
-DocumentDetailView::DocumentDetailView(const QStringList& columns, QWidget* parent)
+DocumentDetailView::DocumentDetailView(const QStringList& columns, const char* thai, const char* english, QWidget* parent)
     : HostedControl(parent)
     , m_list(new QTreeWidget(this))
+    , m_thaiName(thai)
+    , m_englishName(english)
 {
+    nameList();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_list);
@@ -41,6 +44,18 @@ DocumentDetailView::DocumentDetailView(const QStringList& columns, QWidget* pare
     m_list->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_list->installEventFilter(this);
     connect(m_list, &QTreeWidget::itemClicked, this, [this] { Q_EMIT Click(); });
+}
+
+void DocumentDetailView::nameList()
+{
+    m_list->setAccessibleName(bilingual(m_thaiName, m_englishName));
+}
+
+void DocumentDetailView::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        nameList();
+    HostedControl::changeEvent(event);
 }
 
 DocumentDetailView::~DocumentDetailView()
@@ -143,7 +158,8 @@ void DocumentDetailView::report(const DbError& error)
 // --- DocumentJob ---------------------------------------------------------------------------
 
 DocumentJob::DocumentJob(QWidget* parent)
-    : DocumentDetailView({QStringLiteral("No"), QStringLiteral("Detail"), QStringLiteral("Description")}, parent)
+    : DocumentDetailView({QStringLiteral("No"), QStringLiteral("Detail"), QStringLiteral("Description")}, "รายละเอียดใบสั่งงาน", "Job details",
+          parent)
 {
 }
 
@@ -281,7 +297,8 @@ void DocumentJob::showRequest(const QString& prNo, qint32 prLn, const QString& c
 // --- DocumentPR ----------------------------------------------------------------------------
 
 DocumentPR::DocumentPR(QWidget* parent)
-    : DocumentDetailView({QStringLiteral("No"), QStringLiteral("Detail"), QStringLiteral("Description")}, parent)
+    : DocumentDetailView({QStringLiteral("No"), QStringLiteral("Detail"), QStringLiteral("Description")}, "รายละเอียดใบขอซื้อ",
+          "Purchase request details", parent)
 {
 }
 
@@ -320,7 +337,7 @@ void DocumentPR::ShowDocumentPR(const QString& PRNo, qint32 PRLn, const QString&
 DocumentStatus::DocumentStatus(QWidget* parent)
     : DocumentDetailView({QStringLiteral("Action"), QStringLiteral("Date Time"), QStringLiteral("Action By"), QStringLiteral("Name"),
                              QStringLiteral("Remark")},
-          parent)
+          "สถานะและประวัติเอกสาร", "Document status and history", parent)
 {
 }
 

@@ -28,8 +28,10 @@ Q_SIGNALS:
     void KeyDown(int KeyCode, int Shift);
 
 protected:
-    explicit DocumentDetailView(const QStringList& columns, QWidget* parent);
+    // `thai`/`english`: what a screen reader calls the list, in the session language.
+    DocumentDetailView(const QStringList& columns, const char* thai, const char* english, QWidget* parent);
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     // Rows are gathered and handed to the list at once when `Show` ends (one insertion,
     // not one a row): each Show keeps a Batch for its length.
     struct Batch {
@@ -53,7 +55,11 @@ protected:
     void report(const class DbError& error);
 
 private:
+    void nameList();
+
     QTreeWidget* m_list;
+    const char* m_thaiName;
+    const char* m_englishName;
     QList<class QTreeWidgetItem*> m_pending;
     std::shared_ptr<DataObject> m_ownData;
 };
