@@ -130,6 +130,20 @@ void rawSqliteLoad(benchmark::State& state, const BenchDatabase* db)
     sqlite3_close(handle);
 }
 
+// The save's statements in its order, as the raw floors send them.
+template <typename Run>
+void runSaveStatements(const Run& run)
+{
+    for (const char* sql : SaveStatements::Before)
+        run(sql);
+    run(SaveStatements::Header);
+    for (int n = 1; n <= Lines; ++n) {
+        run(SaveStatements::line(n).constData());
+        run(QString::fromUtf8(SaveStatements::Insert).arg(n).toUtf8().constData());
+    }
+    run(SaveStatements::After);
+}
+
 void rawSqliteSave(benchmark::State& state, const BenchDatabase* db)
 {
     sqlite3* handle = nullptr;
@@ -145,14 +159,7 @@ void rawSqliteSave(benchmark::State& state, const BenchDatabase* db)
     };
     for (auto _ : state) {
         run("BEGIN IMMEDIATE");
-        for (const char* sql : SaveStatements::Before)
-            run(sql);
-        run(SaveStatements::Header);
-        for (int n = 1; n <= Lines; ++n) {
-            run(SaveStatements::line(n).constData());
-            run(QString::fromUtf8(SaveStatements::Insert).arg(n).toUtf8().constData());
-        }
-        run(SaveStatements::After);
+        runSaveStatements(run);
         run("COMMIT");
     }
     sqlite3_close(handle);
@@ -172,14 +179,7 @@ void rawLibpqSave(benchmark::State& state, const BenchDatabase* db)
     auto run = [&](const char* sql) { PQclear(PQexec(conn, sql)); };
     for (auto _ : state) {
         run("BEGIN");
-        for (const char* sql : SaveStatements::Before)
-            run(sql);
-        run(SaveStatements::Header);
-        for (int n = 1; n <= Lines; ++n) {
-            run(SaveStatements::line(n).constData());
-            run(QString::fromUtf8(SaveStatements::Insert).arg(n).toUtf8().constData());
-        }
-        run(SaveStatements::After);
+        runSaveStatements(run);
         run("COMMIT");
     }
     PQfinish(conn);

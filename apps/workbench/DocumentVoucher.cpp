@@ -27,8 +27,8 @@ DocumentVoucher::DocumentVoucher(const DocumentPosting& posting, GLControl* pane
 
 void DocumentVoucher::attach(HostedControl& form)
 {
-    // Once, and again when the form's language changed (the panel takes it from the user).
-    if (m_panel->dataObject() == form.dataObject() && m_panel->LanguageID() == form.LanguageID())
+    // Once per session: the panel follows the form's language by itself (HostedControl).
+    if (m_panel->dataObject() == form.dataObject())
         return;
     m_panel->SetFirst(&form, form.sharedDataObject(), form.sharedAppObject(), form.sharedClientObject(), m_posting.formatGroup);
     viewOnly();

@@ -46,7 +46,7 @@ public:
 
     GLControl* panel() const { return m_panel; }
     const DocumentPosting& posting() const { return m_posting; }
-    // Hands the panel the form's session objects (again after a change of language).
+    // Hands the panel the form's session objects.
     void attach(HostedControl& form);
     // A new document: no voucher yet.
     void startNew();
