@@ -655,6 +655,7 @@ SELECT TACYID, m, TACYClosed FROM QD8TACYear, months;
 -- digits), with the running numbers set after them. Each balances; the VAT kinds
 -- split their total into 7% VAT and the amount before it. The newest twenty are not
 -- confirmed yet; two in three of the older ones are approved; a few are cancelled.
+-- Half belong to project PJ01 (the project John's lists open on), some to PJ02.
 WITH RECURSIVE series(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM series WHERE i < 360),
 kinds(kind, book, descr) AS (VALUES
     (0, 'JV', 'ค่าเสื่อมราคาเครื่องใช้สำนักงานประจำเดือน'),
@@ -674,8 +675,9 @@ offsets(i, book, descr, back) AS (
 dated(i, book, descr, d) AS (SELECT i, book, descr, CURRENT_DATE - back FROM offsets),
 numbered(i, book, descr, d, seq) AS (
     SELECT i, book, descr, d, '000' || ROW_NUMBER() OVER (PARTITION BY book, to_char(d, 'YYMM') ORDER BY d, i) FROM dated)
-INSERT INTO QD8TGLTrans (TGLTNo, TGLTDate, TGLTTGLBCode, TGLTMode, TGLTTBraCode, TGLTDescription, TGLTInputSource, TGLTCreateBy, TGLTCreateDate, TGLTEditBy, TGLTEditDate, TGLTRevision, TGLTAmount, TGLTBalanceFlag, TGLTApproveStatus, TGLTCancelStatus, TGLTConfirmStatus, TGLTFlag3)
-SELECT book || to_char(d, 'YYMM') || substr(seq, length(seq) - 3), d, book, 1, CASE WHEN i % 5 = 0 THEN 'CNX' ELSE 'HQ' END, descr, 'JV',
+INSERT INTO QD8TGLTrans (TGLTNo, TGLTDate, TGLTTGLBCode, TGLTMode, TGLTTBraCode, TGLTTPrjCode, TGLTDescription, TGLTInputSource, TGLTCreateBy, TGLTCreateDate, TGLTEditBy, TGLTEditDate, TGLTRevision, TGLTAmount, TGLTBalanceFlag, TGLTApproveStatus, TGLTCancelStatus, TGLTConfirmStatus, TGLTFlag3)
+SELECT book || to_char(d, 'YYMM') || substr(seq, length(seq) - 3), d, book, 1, CASE WHEN i % 5 = 0 THEN 'CNX' ELSE 'HQ' END,
+       CASE WHEN i % 2 = 0 THEN 'PJ01' WHEN i % 5 = 1 THEN 'PJ02' END, descr, 'JV',
        CASE WHEN i % 3 = 0 THEN 'JOHN' ELSE 'SOMCHAI' END, d, CASE WHEN i % 3 = 0 THEN 'JOHN' ELSE 'SOMCHAI' END, d, 0,
        500 + (i * 7919) % 98000 + (i * 37) % 100 / 100.0, 0, CASE WHEN i <= 300 AND i % 3 <> 1 THEN 1 ELSE 0 END,
        CASE WHEN i % 47 = 0 THEN 1 ELSE 0 END, CASE WHEN i > 340 THEN 0 ELSE 1 END, d
