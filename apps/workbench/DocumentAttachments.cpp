@@ -1,6 +1,7 @@
 #include "DocumentAttachments.h"
 
 #include "DocumentScanner.h"
+#include "attachments/ClientCapture.h"
 #include "attachments/HardCopyScan.h"
 #include "foundation/Services.h"
 #include "widgets/HostedControl.h"
@@ -188,13 +189,10 @@ QStringList DocumentAttachments::copyIn(const QStringList& paths)
     const QDir dir(folder());
     dir.mkpath(QStringLiteral("."));
     for (const QString& path : paths) {
-        const QString suffix = QFileInfo(path).suffix().toUpper();
         // The first file of a type takes the document's number, the next ones a page number.
-        QString name = m_number + QLatin1Char('.') + suffix;
-        for (int page = 2; QFile::exists(dir.filePath(name)); ++page)
-            name = QStringLiteral("%1-%2.%3").arg(m_number).arg(page).arg(suffix);
-        if (QFile::copy(path, dir.filePath(name)))
-            kept << name;
+        const QString name = ClientCapture::freeFileName(dir.path(), m_number, QFileInfo(path).suffix().toUpper());
+        if (QFile::copy(path, name))
+            kept << QFileInfo(name).fileName();
         else
             tell(QStringLiteral("คัดลอก %1 ไม่ได้").arg(path), QStringLiteral("Could not copy %1").arg(path));
     }

@@ -1,11 +1,8 @@
 #include "DocumentScanner.h"
 
-#include <QFile>
+#include "attachments/PdfPages.h"
+
 #include <cstring>
-#include <QPageSize>
-#include <QPainter>
-#include <QPdfWriter>
-#include <QRegularExpression>
 
 #include <optional>
 
@@ -155,39 +152,12 @@ QList<QImage> DocumentScanner::scan() const
 
 bool DocumentScanner::writePdf(const QList<QImage>& pages, const QString& fileName)
 {
-    if (pages.isEmpty())
-        return false;
-    const int dotsPerInch = qMax(1, qRound(pages.first().dotsPerMeterX() * 0.0254));
-    QPdfWriter pdf(fileName);
-    pdf.setResolution(dotsPerInch);
-    QPainter painter;
-    for (qsizetype i = 0; i < pages.size(); ++i) {
-        const QImage& image = pages[i];
-        const QSizeF inches(double(image.width()) / dotsPerInch, double(image.height()) / dotsPerInch);
-        pdf.setPageSize(QPageSize(inches, QPageSize::Inch));
-        pdf.setPageMargins({});
-        if (i == 0) {
-            if (!painter.begin(&pdf))
-                return false;
-        } else if (!pdf.newPage()) {
-            return false;
-        }
-        painter.drawImage(QRect(0, 0, image.width(), image.height()), image);
-    }
-    return painter.end();
+    return PdfPages::write(pages, fileName);
 }
 
 int DocumentScanner::pdfPageCount(const QString& fileName)
 {
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return -1;
-    const QByteArray content = file.readAll();
-    if (!content.startsWith("%PDF-"))
-        return -1;
-    // Page objects, not the page tree ("/Type /Pages").
-    static const QRegularExpression pageObject(QStringLiteral("/Type\\s*/Page(?![s\\w])"));
-    return int(QString::fromLatin1(content).count(pageObject));
+    return PdfPages::count(fileName);
 }
 
 } // namespace qd8
