@@ -22,7 +22,8 @@ CREATE TABLE QD8TCommandGroup (
 );
 
 -- One row per launchable command. Lunch carries TCmdAlias.
--- TCmdType: F form, R report (the two kinds a user may put on his own list).
+-- TCmdType: F form, R report (the two kinds a user may put on his own list),
+-- P program, W web page (its address: the [OEM] key named after the alias).
 CREATE TABLE QD8TCommand (
     TCmdID INTEGER NOT NULL,
     TCmdAlias VARCHAR(50) NOT NULL,

@@ -206,11 +206,12 @@ bool SampleFiles::write(const QString& dir, QString* error)
         return false;
 
     // The installation's dealer answers the contact page and support mail. An empty key
-    // here (NEWSURL) keeps the reseller's value.
+    // here (NEWSURL) keeps the reseller's value. CENTERFXRATE is the web command's address.
     const QList<IniValue> local = {
         {"CONTACTURL", QStringLiteral("https://dealer-cnx.example/qd8/contact")},
         {"SUPPORTEMAIL", QStringLiteral("helpdesk@siamtrading.example")},
         {"NEWSURL", QString()},
+        {"CENTERFXRATE", QStringLiteral("https://www.bot.or.th/en/statistics/exchange-rate.html")},
     };
     const QList<IniValue> startup = {
         {"Company", QStringLiteral("บริษัท สยามเทรดดิ้ง จำกัด")},

@@ -67,7 +67,12 @@ DocumentAttachments::DocumentAttachments(HostedControl& form, const QString& tab
     , m_form(form)
     , m_table(table)
     , m_strip(strip)
+    , m_capture(new ClientCapture(strip->parentWidget()))
 {
+    m_capture->setObjectName(QStringLiteral("capture"));
+    connect(m_capture, &ClientCapture::CaptureSaved, this, [this](const QString& file) {
+        tell(QStringLiteral("เก็บ %1 แล้ว").arg(QFileInfo(file).fileName()), QStringLiteral("Kept %1").arg(QFileInfo(file).fileName()));
+    });
     strip->setObjectName(QStringLiteral("hardCopy"));
     strip->setChangeFolderActive(true);
     preview = [this](const QList<QImage>& pages) { return previewDialog(pages, &m_form, m_form.LanguageID()); };
@@ -86,6 +91,8 @@ void DocumentAttachments::setDocument(const QString& number, bool editing)
 {
     m_number = number.trimmed();
     m_strip->setEditStatus(editing);
+    m_capture->setDocumentNumber(m_number);
+    m_capture->setAttachmentFolder(folder());
 }
 
 QString DocumentAttachments::folder() const
@@ -117,8 +124,10 @@ void DocumentAttachments::onClick(int index, const QString& suffix)
         Services::shell().openUrl(QUrl::fromLocalFile(folder()).toString());
     } else if (index == HardCopyScan::ChangeIndex) {
         const QString chosen = chooseFolder(folder());
-        if (!chosen.isEmpty())
+        if (!chosen.isEmpty()) {
             m_strip->setManualFolder(chosen);
+            m_capture->setAttachmentFolder(chosen);
+        }
     } else {
         open(suffix);
     }

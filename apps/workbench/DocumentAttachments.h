@@ -8,6 +8,7 @@
 
 namespace qd8 {
 
+class ClientCapture;
 class HardCopyScan;
 class HostedControl;
 
@@ -16,7 +17,8 @@ class HostedControl;
 // pages are shown before they are kept, a feeder's pages go into one PDF, image types take
 // a file a page), FOLDER opens the folder, CHANGE picks another, and files dropped on the
 // strip are copied in under the document's number. The folder is the one picked by hand
-// (ManualFolder), else HardCopy/<document table> in the installation folder.
+// (ManualFolder), else HardCopy/<document table> in the installation folder. Pictures
+// captured for the document (capture()) go into the same folder, or into its PDF.
 class DocumentAttachments : public QObject {
     Q_OBJECT
 
@@ -24,6 +26,7 @@ public:
     DocumentAttachments(HostedControl& form, const QString& table, HardCopyScan* strip);
 
     HardCopyScan* strip() const { return m_strip; }
+    ClientCapture* capture() const { return m_capture; }
     // The document shown ("" while it is not saved yet) and whether it is being edited.
     void setDocument(const QString& number, bool editing);
     QString folder() const;
@@ -54,6 +57,7 @@ private:
     HostedControl& m_form;
     QString m_table;
     HardCopyScan* m_strip;
+    ClientCapture* m_capture;
     QString m_number;
 };
 

@@ -5,6 +5,7 @@
 #include "accounting/CreditLimit.h"
 #include "accounting/GLControl.h"
 #include "accounting/PointControl.h"
+#include "attachments/ClientCapture.h"
 #include "attachments/HardCopyScan.h"
 #include "database/ClientObject.h"
 #include "database/ListService.h"
@@ -244,6 +245,7 @@ DocumentForm::DocumentForm(const DocumentDefinition& definition, QWidget* parent
     if (!m_definition.isMaster()) {
         m_attachments = new DocumentAttachments(*this, m_definition.table, new HardCopyScan(this));
         buttons->insertWidget(0, m_attachments->strip());
+        buttons->insertWidget(1, m_attachments->capture());
     }
     if (!m_definition.posting.isEmpty()) {
         m_voucher = std::make_unique<DocumentVoucher>(m_definition.posting, new GLControl(this));

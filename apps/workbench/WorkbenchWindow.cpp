@@ -2,6 +2,7 @@
 
 #include "ListPrinter.h"
 #include "LoginDialog.h"
+#include "WorkbenchWeb.h"
 #include "database/AppObject.h"
 #include "database/ClientObject.h"
 #include "database/DataObject.h"
@@ -59,13 +60,12 @@ QHash<QString, WorkbenchWindow::Deleter>& deleters()
     return registered;
 }
 
-const char* CommandProperty = "qd8CommandAlias";
-
 } // namespace
 
 WorkbenchWindow::WorkbenchWindow(const WorkbenchSession& session, const QString& module, QWidget* parent)
     : QMainWindow(parent)
     , m_session(session)
+    , m_web(std::make_unique<WorkbenchWeb>(*this))
     , m_ribbon(new NUVRibbon(this))
     , m_shortcuts(new ShortCutBar(this))
     , m_toolBar(new DocumentToolBar(this))
@@ -363,6 +363,10 @@ void WorkbenchWindow::launch(const QString& shellFunction)
             m_tabs->setCurrentIndex(i);
             return;
         }
+    if (WorkbenchWeb::isWebAddress(shellFunction)) {
+        openWebPage(shellFunction.trimmed(), QString(), shellFunction);
+        return;
+    }
     Command command{shellFunction, shellFunction, QString(), QString(), QString()};
     if (shellFunction == QLatin1String("WINDOW:REPORTSEARCH")) {
         command.caption = text("ค้นหารายงาน", "Report Search");
@@ -376,6 +380,10 @@ void WorkbenchWindow::launch(const QString& shellFunction)
             showStatus(error);
             return;
         }
+    }
+    if (command.type == QLatin1String("W")) {
+        openWebCommand(command.alias, command.caption);
+        return;
     }
     const QString typeForm = QStringLiteral("TYPE:") + command.type;
     QString form = FormRegistry::contains(command.alias) ? command.alias : FormRegistry::contains(typeForm) ? typeForm : QString();

@@ -25,6 +25,7 @@ class HostedControl;
 class NUVRibbon;
 class ShortCutBar;
 class DocumentToolBar;
+class WorkbenchWeb;
 
 // The host application: the ribbon across the top, the shortcut bar on the left, a module
 // tool bar over the forms, the forms as tabs in the centre and a status bar with the user,
@@ -53,6 +54,11 @@ public:
     QString tabCommand(int index) const;
 
     static void registerDeleter(const QString& commandAlias, Deleter deleter);
+
+    // A web page in a browser tab (the tab of `key` when one is open), or in the desktop's
+    // browser where the embedded one cannot run. The help menu's pages come here through the
+    // shell service, web commands through launch (WorkbenchWeb.cpp).
+    void openWebPage(const QString& url, const QString& caption, const QString& key);
 
     // The document and master forms a list opens: a tab of their own, set up for the
     // command of the list in the current tab.
@@ -131,8 +137,12 @@ private:
     void updateStatusLabels();
     QWidget* formOf(QObject* sender) const;
     QString text(const char* thai, const char* english) const;
+    // A catalogue command of type "W": the address the installation's settings hold under its alias.
+    void openWebCommand(const QString& alias, const QString& caption);
 
+    static constexpr const char* CommandProperty = "qd8CommandAlias";
     WorkbenchSession m_session;
+    std::unique_ptr<WorkbenchWeb> m_web;
     NUVRibbon* m_ribbon = nullptr;
     ShortCutBar* m_shortcuts = nullptr;
     DocumentToolBar* m_toolBar = nullptr;

@@ -44,6 +44,7 @@ QString thaiFontFamily()
 int main(int argc, char* argv[])
 {
     chooseHeadlessPlatform(argc, argv);
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);  // the browser tabs' web engine asks for it
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("qd8-workbench"));
     QCommandLineParser options;

@@ -37,6 +37,7 @@ public:
     QAction* screen = nullptr;
     QAction* window = nullptr;
     QAction* camera = nullptr;
+    QAction* asPdf = nullptr;  // checked: SaveFormat "PDF"
 };
 
 ClientCapture::ClientCapture(QWidget* parent)
@@ -52,6 +53,10 @@ ClientCapture::ClientCapture(QWidget* parent)
     d->window = menu->addAction(QString(), this, [this] { CaptureWindow(); });
     d->screen = menu->addAction(QString(), this, [this] { CaptureScreen(); });
     d->camera = menu->addAction(QString(), this, [this] { CaptureCamera(); });
+    menu->addSeparator();
+    d->asPdf = menu->addAction(QString());
+    d->asPdf->setCheckable(true);
+    connect(d->asPdf, &QAction::toggled, this, [this](bool pdf) { d->format = pdf ? QStringLiteral("PDF") : QStringLiteral("PNG"); });
     d->button->setMenu(menu);
     row->addWidget(d->button);
     crop = [this](const QImage& picture) { return CropDialog::ask(picture, LanguageID(), this); };
@@ -65,7 +70,12 @@ void ClientCapture::setAttachmentFolder(const QString& folder) { d->folder = fol
 QString ClientCapture::DocumentNumber() const { return d->number; }
 void ClientCapture::setDocumentNumber(const QString& number) { d->number = number.trimmed(); }
 QString ClientCapture::SaveFormat() const { return d->format; }
-void ClientCapture::setSaveFormat(const QString& format) { d->format = format.trimmed().toUpper(); }
+void ClientCapture::setSaveFormat(const QString& format)
+{
+    d->format = format.trimmed().toUpper();
+    QSignalBlocker quiet(d->asPdf);
+    d->asPdf->setChecked(d->format == QLatin1String("PDF"));
+}
 QToolButton* ClientCapture::button() const { return d->button; }
 
 void ClientCapture::changeEvent(QEvent* event)
@@ -76,6 +86,7 @@ void ClientCapture::changeEvent(QEvent* event)
         d->window->setText(bilingual("หน้าต่างนี้", "This window"));
         d->screen->setText(bilingual("ทั้งหน้าจอ", "Whole screen"));
         d->camera->setText(bilingual("กล้อง", "Camera"));
+        d->asPdf->setText(bilingual("เก็บเป็นหน้าใหม่ของ PDF เอกสารสแกน", "Keep as a new page of the scanned PDF"));
     }
     if (event)
         HostedControl::changeEvent(event);

@@ -38,7 +38,8 @@ public:
     // The document the picture belongs to; "" while it is not saved: nothing is captured.
     QString DocumentNumber() const;
     void setDocumentNumber(const QString& number);
-    // "PNG" (a picture file of its own, the default) or "PDF" (a page of the scanned copy).
+    // "PNG" (a picture file of its own, the default) or "PDF" (a page of the scanned copy);
+    // the menu's last entry switches between the two.
     QString SaveFormat() const;
     void setSaveFormat(const QString& format);
 

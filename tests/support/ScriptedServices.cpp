@@ -84,7 +84,7 @@ bool ScriptedShell::run(const QString& commandLine, int windowStyle)
 bool ScriptedShell::openUrl(const QString& url)
 {
     commands << QStringLiteral("url:") + url;
-    return true;
+    return starts;
 }
 
 void ScriptedProgress::begin(const QString& title, const QString& text, qint64 total)

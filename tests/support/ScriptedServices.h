@@ -77,7 +77,7 @@ public:
     bool openUrl(const QString& url) override;
 
     QStringList commands;  // "run:<command line>:<style>" or "url:<url>"
-    bool starts = true;    // false: every program fails to start
+    bool starts = true;    // false: every program and page fails to open
     void reset() { commands.clear(); starts = true; }
 };
 
