@@ -205,29 +205,10 @@ void WebBrowser::Navigate(const QString& url)
         d->view->load(target);
 }
 
-void WebBrowser::GoBack()
-{
-    if (d->view)
-        d->view->back();
-}
-
-void WebBrowser::GoForward()
-{
-    if (d->view)
-        d->view->forward();
-}
-
-void WebBrowser::Reload()
-{
-    if (d->view)
-        d->view->reload();
-}
-
-void WebBrowser::Stop()
-{
-    if (d->view)
-        d->view->stop();
-}
+void WebBrowser::GoBack() { if (d->view) d->view->back(); }
+void WebBrowser::GoForward() { if (d->view) d->view->forward(); }
+void WebBrowser::Reload() { if (d->view) d->view->reload(); }
+void WebBrowser::Stop() { if (d->view) d->view->stop(); }
 
 void WebBrowser::PrintToPdf(const QString& fileName)
 {

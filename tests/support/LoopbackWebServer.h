@@ -1,24 +1,32 @@
 #pragma once
 
 #include <QProcess>
-#include <QString>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 namespace qd8::test {
 
-// Python's http.server on a free port of 127.0.0.1, serving the pages it was given
-// (file name -> HTML) until it goes out of scope.
+// Python's http.server on a free port of 127.0.0.1 serving the pages given (file name, HTML)
+// while it lives. Port 0 lets the system pick the port; the server's first line names it.
 class LoopbackWebServer {
 public:
-    explicit LoopbackWebServer(const QList<std::pair<QString, QString>>& pages);
-    ~LoopbackWebServer();
-    bool isRunning() const { return m_port > 0; }
-    QString url(const QString& page) const;
+    explicit LoopbackWebServer(const QList<std::pair<QString, QString>>& pages)
+    {
+        for (const auto& [name, html] : pages) {
+            QFile file(m_dir.filePath(name));
+            file.open(QIODevice::WriteOnly) && file.write(html.toUtf8());
+        }
+        m_server.start("/usr/bin/python3", {"-u", "-m", "http.server", "0", "--bind", "127.0.0.1", "--directory", m_dir.path()});
+        if (m_server.waitForReadyRead(10000))
+            m_port = QRegularExpression(" port (\\d+) ").match(QString::fromLatin1(m_server.readLine())).captured(1);
+    }
+    ~LoopbackWebServer() { m_server.kill(), m_server.waitForFinished(); }
+    QString url(const QString& page) const { return "http://127.0.0.1:" + m_port + "/" + page; }
 
 private:
     QTemporaryDir m_dir;
     QProcess m_server;
-    quint16 m_port = 0;
+    QString m_port;
 };
 
 } // namespace qd8::test
