@@ -2,6 +2,7 @@
 
 #include "navigation/CommandLauncher.h"
 #include "navigation/IconList.h"
+#include "navigation/NUVDiagramIcon.h"
 
 #include <QList>
 #include <QPointer>
@@ -11,8 +12,6 @@ class QGraphicsScene;
 class QGraphicsView;
 
 namespace qd8 {
-
-class NUVDiagramIcon;
 
 // The base of the diagrams and the module index: tiles on a Graphics View scene, laid out
 // by the control (at positions a drawing gives, or flowing in rows under section headings),

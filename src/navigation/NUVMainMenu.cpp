@@ -138,6 +138,11 @@ void NUVMainMenu::buildGrid()
         grid->addWidget(button, i / m_cols, i % m_cols);
         m_buttons << button;
     }
+    // Equal places, whatever the captions' lengths.
+    for (int column = 0; column < m_cols; ++column)
+        grid->setColumnStretch(column, 1);
+    for (int row = 0; row < m_rows; ++row)
+        grid->setRowStretch(row, 1);
     fillPage();
 }
 
