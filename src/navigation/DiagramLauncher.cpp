@@ -189,11 +189,6 @@ NUVDiagramIcon* DiagramLauncher::addIcon(const QString& alias, const QString& ca
     return tile;
 }
 
-void DiagramLauncher::place(NUVDiagramIcon* icon, const QPointF& centre)
-{
-    icon->setPos(centre);
-}
-
 void DiagramLauncher::addArrow(const QString& fromAlias, const QString& toAlias)
 {
     NUVDiagramIcon* from = icon(fromAlias);
@@ -376,12 +371,6 @@ void DiagramLauncher::showEvent(QShowEvent* event)
 {
     CommandLauncher::showEvent(event);
     arrange();
-}
-
-void DiagramLauncher::focusInEvent(QFocusEvent* event)
-{
-    CommandLauncher::focusInEvent(event);
-    m_view->setFocus();
 }
 
 } // namespace qd8

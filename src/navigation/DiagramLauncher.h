@@ -51,8 +51,6 @@ protected:
     void addArrow(const QString& fromAlias, const QString& toAlias);
     // A drawing of `size` points behind the tiles: SVG, or any picture Qt reads. False when it cannot be read.
     bool setBackground(const QString& file, const QSizeF& size);
-    // Places a drawn tile with its centre at `centre`.
-    void place(NUVDiagramIcon* icon, const QPointF& centre);
     // Tiles that flow in rows, each section under its heading: below the drawing when there
     // is one (its width), else across the window.
     // The tiles keep the order they are seen in: drawn ones first, then section by section.
@@ -67,7 +65,6 @@ protected:
     bool canLaunch(const CommandCatalogue& commands) const override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
 
 private:
     qreal flowSections(qreal top, qreal width);

@@ -105,7 +105,7 @@ void NUVDiagram::Refresh()
         NUVDiagramIcon* tile = addIcon(entry.alias, drawn && !step->caption.isEmpty() ? step->caption : entry.caption,
             entry.iconKey, entry.iconFile, entry.listable);
         if (drawn)
-            place(tile, step->centre);
+            tile->setPos(step->centre);  // in the drawing's points
         else
             rest.icons << tile;
         return true;

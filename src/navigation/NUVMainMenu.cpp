@@ -86,7 +86,6 @@ NUVMainMenu::NUVMainMenu(QWidget* parent)
         }
     setTextMode(false);
     buildGrid();
-    reword();
 }
 
 NUVMainMenu::~NUVMainMenu() = default;
@@ -298,13 +297,14 @@ void NUVMainMenu::reword()
     m_previous->setAccessibleName(bilingual("หน้าก่อน", "Previous page"));
     m_next->setAccessibleName(bilingual("หน้าถัดไป", "Next page"));
     m_grid->setAccessibleName(bilingual("คำสั่ง", "Commands"));
-    m_pageLabel->setText(bilingual("หน้า %1/%2", "Page %1/%2").arg(m_page + 1).arg(pageCount()));
 }
 
 void NUVMainMenu::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         reword();
+        fillPage();  // the page's number
+    }
     CommandLauncher::changeEvent(event);
 }
 
