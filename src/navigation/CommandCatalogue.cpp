@@ -158,6 +158,7 @@ void CommandCatalogue::load(CommandSet set, const std::function<bool(const Comma
                 if (!visitRows(commandByIdSql(list.text(idField)), catalogue, language, withIcons, visit))
                     return;
             } catch (const DbError&) {
+                // A command that cannot be read adds nothing; the next one may.
             }
         }
     } catch (const DbError&) {
@@ -175,6 +176,7 @@ void CommandCatalogue::load(const Sql& statement, int language, const std::funct
         catalogue.open(m_session.AppConnectionString);
         visitRows(statement, catalogue, language, true, visit);
     } catch (const DbError&) {
+        // As far as it got, as the lists.
     }
 }
 

@@ -51,7 +51,8 @@ void NUVDiagram::Refresh()
 {
     deriveCommandCentre();
     clearDiagram();
-    m_title = QString();
+    m_title.clear();
+    m_drawn = false;
     const QString module = CommandGroup();
     if (ConnectionString().isEmpty() || AppConnectionString().isEmpty())
         return;
@@ -75,6 +76,7 @@ void NUVDiagram::Refresh()
             rs.open(diagramSql(module), c);
             if (rs.eof())
                 continue;
+            m_drawn = true;
             m_title = inLanguage(LanguageID(), rs.text(QStringLiteral("TDgmName")), rs.text(QStringLiteral("TDgmName2")));
             background = rs.text(QStringLiteral("TDgmBackground"));
             size = QSizeF(rs.field(QStringLiteral("TDgmWidth")).toReal(), rs.field(QStringLiteral("TDgmHeight")).toReal());

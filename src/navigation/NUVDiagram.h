@@ -26,7 +26,7 @@ public:
     // The diagram's title in the session language, "" when the module has no drawing.
     QString title() const { return m_title; }
     // Whether the module has a drawing (a QD8TDiagram row in use) in either database.
-    bool hasDrawing() const { return !m_title.isNull(); }
+    bool hasDrawing() const { return m_drawn; }
 
     static Sql diagramSql(const QString& commandGroup);
     static Sql itemsSql(const QString& commandGroup);
@@ -41,6 +41,7 @@ public Q_SLOTS:
 private:
     QString m_custom;
     QString m_title;
+    bool m_drawn = false;
 };
 
 } // namespace qd8

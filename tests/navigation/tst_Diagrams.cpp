@@ -201,9 +201,10 @@ TEST_P(DiagramTest, TheKeypadPagesTheUsersCommandsOverColsByRowsAndTakesNumbers)
     QObject::connect(&menu, &NUVMainMenu::EntryAccepted, [&](const QString& text) { accepted << text; });
     // Every target is 9 mm or more at the screen's dpi.
     const qreal mm = 25.4 / menu.logicalDpiY();
-    for (QToolButton* b : menu.findChildren<QToolButton*>())
+    for (QToolButton* b : menu.findChildren<QToolButton*>()) {
         if (b->isVisible())
             EXPECT_GE(qMin(b->width(), b->height()) * mm, 9.0) << b->text().toStdString();
+    }
     for (const char* key : {"1", "2", ".", "5", ".", "BS", "7", "OK"})
         menu.keypadButton(QString::fromLatin1(key))->click();
     // Arrows move among the commands; digits typed there land in the entry line.
