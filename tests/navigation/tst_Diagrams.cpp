@@ -202,8 +202,9 @@ TEST_P(DiagramTest, TheKeypadPagesTheUsersCommandsOverColsByRowsAndTakesNumbers)
     // Every target is 9 mm or more at the screen's dpi.
     const qreal mm = 25.4 / menu.logicalDpiY();
     for (QToolButton* b : menu.findChildren<QToolButton*>()) {
-        if (b->isVisible())
+        if (b->isVisible()) {
             EXPECT_GE(qMin(b->width(), b->height()) * mm, 9.0) << b->text().toStdString();
+        }
     }
     for (const char* key : {"1", "2", ".", "5", ".", "BS", "7", "OK"})
         menu.keypadButton(QString::fromLatin1(key))->click();
