@@ -70,6 +70,9 @@ void NUVDiagramIndex::Refresh()
     setSections({modules});
     finishDiagram();
     view()->setAccessibleName(bilingual("ดัชนีโมดูล", "Module index"));
+    // A module's diagram open over the index is read again too (the language may have changed).
+    if (m_diagram)
+        showModule(m_diagram->CommandGroup());
 }
 
 void NUVDiagramIndex::openIcon(const QString& alias)
