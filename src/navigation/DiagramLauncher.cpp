@@ -290,7 +290,8 @@ void DiagramLauncher::arrange()
         const qreal bottom = flowSections(m_drawing.height(), m_drawing.width());
         const QRectF all(0, 0, m_drawing.width(), qMax(bottom, m_drawing.height()));
         m_scene->setSceneRect(all);
-        scale = qMin(dpiScale, qMin(port.width() / all.width(), port.height() / all.height()));
+        if (!port.isEmpty())  // not laid out yet: the drawing's own size
+            scale = qMin(dpiScale, qMin(port.width() / all.width(), port.height() / all.height()));
     } else {
         const qreal bottom = flowSections(Margin, port.width() / dpiScale);
         m_scene->setSceneRect(0, 0, port.width() / dpiScale, bottom + Margin);
