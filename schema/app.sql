@@ -429,3 +429,43 @@ SELECT r.TRpFID, r.TRpFReportGroup, r.TRpFSort, r.TRpFFieldName,
        q.TQFmCaption, q.TQFmCaption2, q.TQFmView, q.TQFmPKList, q.TQFmKeyIDEN
 FROM QD8TReportFilter r
 LEFT JOIN QD8TQuickForm q ON r.TRpFRunQuickForm = q.TQFmAlias;
+
+-- Module diagrams: a drawn picture of a module's process with its commands placed
+-- on it. One QD8TDiagram row per module that has a drawing; its steps and arrows
+-- in the two tables below. A module without a row is laid out automatically.
+-- TDgmBackground: a file in the image folder, or a resource path (":/...").
+-- TDgmWidth, TDgmHeight: the drawing's size in points at 96 dpi; steps are placed
+-- in the same units.
+CREATE TABLE QD8TDiagram (
+    TDgmTCmGAlias VARCHAR(20) NOT NULL,
+    TDgmName VARCHAR(200) COLLATE THAI,
+    TDgmName2 VARCHAR(200) COLLATE THAI,
+    TDgmBackground VARCHAR(200),
+    TDgmWidth INTEGER DEFAULT 800,
+    TDgmHeight INTEGER DEFAULT 500,
+    TDgmFlag1 INTEGER DEFAULT 1,
+    PRIMARY KEY (TDgmTCmGAlias)
+);
+
+-- One step of a diagram: a command placed with its centre at (TDgIX, TDgIY).
+-- TDgICaption, TDgICaption2 replace the catalogue caption when not Null.
+CREATE TABLE QD8TDiagramItem (
+    TDgITCmGAlias VARCHAR(20) NOT NULL,
+    TDgITCmdAlias VARCHAR(50) NOT NULL,
+    TDgIX INTEGER DEFAULT 0,
+    TDgIY INTEGER DEFAULT 0,
+    TDgICaption VARCHAR(200) COLLATE THAI,
+    TDgICaption2 VARCHAR(200) COLLATE THAI,
+    TDgISort INTEGER DEFAULT 0,
+    TDgIFlag1 INTEGER DEFAULT 1,
+    PRIMARY KEY (TDgITCmGAlias, TDgITCmdAlias)
+);
+
+-- An arrow from one step to the next, both named by their command alias.
+CREATE TABLE QD8TDiagramArrow (
+    TDgATCmGAlias VARCHAR(20) NOT NULL,
+    TDgAFromTCmdAlias VARCHAR(50) NOT NULL,
+    TDgAToTCmdAlias VARCHAR(50) NOT NULL,
+    TDgAFlag1 INTEGER DEFAULT 1,
+    PRIMARY KEY (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias)
+);

@@ -1,5 +1,6 @@
 #include "WorkbenchWindow.h"
 
+#include "DiagramForms.h"
 #include "ListPrinter.h"
 #include "LoginDialog.h"
 #include "WorkbenchWeb.h"
@@ -115,6 +116,7 @@ WorkbenchWindow::WorkbenchWindow(const WorkbenchSession& session, const QString&
     connect(m_tabs, &QTabWidget::tabCloseRequested, this, [this](int index) { closeForm(m_tabs->widget(index)); });
 
     buildStatusBar();
+    addDiagramCommands(*this);
     fillModules(module);
     for (HostedControl* launcher : std::initializer_list<HostedControl*>{m_ribbon, m_shortcuts, m_toolBar})
         connectEvents(launcher);

@@ -1,3 +1,4 @@
+#include "DiagramForms.h"
 #include "LoginDialog.h"
 #include "WorkbenchForms.h"
 #include "WorkbenchWindow.h"
@@ -32,6 +33,16 @@ void chooseHeadlessPlatform(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
+// A touch station (--touch) types text through Qt Virtual Keyboard. The input method is
+// the process's, chosen before the application starts, so it is an option of the station
+// rather than of the user who logs in.
+void chooseTouchKeyboard(int argc, char** argv)
+{
+    for (int i = 1; i < argc; ++i)
+        if (std::strcmp(argv[i], "--touch") == 0 && qEnvironmentVariableIsEmpty("QT_IM_MODULE"))
+            qputenv("QT_IM_MODULE", "qtvirtualkeyboard");
+}
+
 // The family that draws Thai text, "" when no font has Thai glyphs.
 QString thaiFontFamily()
 {
@@ -45,6 +56,7 @@ int main(int argc, char* argv[])
 {
     chooseHeadlessPlatform(argc, argv);
     QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);  // the browser tabs' web engine asks for it
+    chooseTouchKeyboard(argc, argv);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("qd8-workbench"));
     QCommandLineParser options;
@@ -60,6 +72,7 @@ int main(int argc, char* argv[])
         {"lang", "Language: th or en (stored as the user's setting).", "LANG"},
         {"module", "Module shown at start (command group alias).", "ALIAS"},
         {"size", "Size of the main window, e.g. 1024x768.", "WxH"},
+        {"touch", "A touch screen: text is typed on Qt Virtual Keyboard."},
         {"screenshot", "Write PNGs of the main window and every form into DIR, then exit.", "DIR"},
         {"log", "Append status messages and opened forms to FILE.", "FILE"},
         {"admin", "The qd8-admin program that creates the sample company.", "PATH",
@@ -120,6 +133,8 @@ int main(int argc, char* argv[])
         QObject::connect(&window, &WorkbenchWindow::formOpened, [&](const QString& alias) { note("opened " + alias); });
         if (const QStringList size = options.value("size").split(QLatin1Char('x')); size.size() == 2)
             window.resize(size[0].toInt(), size[1].toInt());
+        if (startsInKeypad(session))
+            startInKeypad(window);
         window.show();
 
         if (options.isSet("screenshot")) {

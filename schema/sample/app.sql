@@ -368,3 +368,53 @@ INSERT INTO QD8TQuickField (TQFFID, TQFFTCusCode, TQFFSort, TQFFFieldName, TQFFC
 INSERT INTO QD8TQuickField (TQFFID, TQFFTCusCode, TQFFSort, TQFFFieldName, TQFFCaption, TQFFCaption2, TQFFFieldType, TQFFPrimaryKey, TQFFCanBlank, TQFFWidth, TQFFFlag1) VALUES (606, 'SHIPTERM', 1, 'TCS1Code', 'รหัส', 'Code', 'TEXT', 1, 0, 1200, 1);
 INSERT INTO QD8TQuickField (TQFFID, TQFFTCusCode, TQFFSort, TQFFFieldName, TQFFCaption, TQFFCaption2, TQFFFieldType, TQFFPrimaryKey, TQFFCanBlank, TQFFWidth, TQFFFlag1) VALUES (607, 'SHIPTERM', 2, 'TCS1Name', 'รายละเอียด', 'Description', 'TEXT', 0, 0, 4000, 1);
 INSERT INTO QD8TQuickField (TQFFID, TQFFTCusCode, TQFFSort, TQFFFieldName, TQFFCaption, TQFFCaption2, TQFFFieldType, TQFFPrimaryKey, TQFFCanBlank, TQFFWidth, TQFFFlag1) VALUES (608, 'SHIPTERM', 3, 'TCS1Name2', 'รายละเอียด (อังกฤษ)', 'Description (English)', 'TEXT', 0, 1, 4000, 1);
+
+-- Module diagrams: drawn processes of the general ledger, purchasing and inventory
+-- (the drawings are resources of the library). Commands of a module that a drawing
+-- leaves out (the product tree of inventory) are laid out beneath it.
+INSERT INTO QD8TDiagram (TDgmTCmGAlias, TDgmName, TDgmName2, TDgmBackground, TDgmWidth, TDgmHeight, TDgmFlag1) VALUES ('GL', 'ผังงานบัญชีแยกประเภท', 'General Ledger Process', ':/qd8/schema/sample/diagrams/GL.svg', 800, 480, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('GL', 'GLCHART', 100, 130, NULL, NULL, 1, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('GL', 'JOURNALBOOK', 100, 250, NULL, NULL, 2, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('GL', 'PROJECT', 100, 370, NULL, NULL, 3, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('GL', 'GLRECURRING', 300, 130, NULL, NULL, 4, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('GL', 'GLJV', 300, 250, 'บันทึกบัญชี', 'Post Vouchers', 5, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('GL', 'GLCLOSE', 500, 250, NULL, NULL, 6, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('GL', 'GLLEDGER', 700, 130, NULL, NULL, 7, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('GL', 'GLTB', 700, 250, NULL, NULL, 8, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('GL', 'GLPROFIT', 700, 370, NULL, NULL, 9, 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('GL', 'GLCHART', 'GLJV', 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('GL', 'JOURNALBOOK', 'GLJV', 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('GL', 'GLRECURRING', 'GLJV', 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('GL', 'GLJV', 'GLCLOSE', 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('GL', 'GLJV', 'GLLEDGER', 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('GL', 'GLCLOSE', 'GLTB', 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('GL', 'GLTB', 'GLPROFIT', 1);
+INSERT INTO QD8TDiagram (TDgmTCmGAlias, TDgmName, TDgmName2, TDgmBackground, TDgmWidth, TDgmHeight, TDgmFlag1) VALUES ('PU', 'ผังงานจัดซื้อ', 'Purchasing Process', ':/qd8/schema/sample/diagrams/PU.svg', 800, 480, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('PU', 'PUQUOTE', 100, 150, NULL, NULL, 1, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('PU', 'PUPORTAL', 100, 310, NULL, NULL, 2, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('PU', 'PUPO', 300, 230, NULL, NULL, 3, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('PU', 'PURECEIVE', 500, 150, NULL, NULL, 4, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('PU', 'PURETURN', 500, 310, NULL, NULL, 5, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('PU', 'PUCOMPARE', 700, 110, NULL, NULL, 6, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('PU', 'PUOUTSTANDING', 700, 230, NULL, NULL, 7, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('PU', 'PUHISTORY', 700, 350, NULL, NULL, 8, 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('PU', 'PUQUOTE', 'PUPO', 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('PU', 'PUPORTAL', 'PUPO', 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('PU', 'PUPO', 'PURECEIVE', 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('PU', 'PURECEIVE', 'PURETURN', 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('PU', 'PUPO', 'PUOUTSTANDING', 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('PU', 'PUQUOTE', 'PUCOMPARE', 1);
+INSERT INTO QD8TDiagram (TDgmTCmGAlias, TDgmName, TDgmName2, TDgmBackground, TDgmWidth, TDgmHeight, TDgmFlag1) VALUES ('IC', 'ผังงานสินค้าคงคลัง', 'Inventory Process', ':/qd8/schema/sample/diagrams/IC.svg', 800, 480, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('IC', 'ICPRODUCT', 100, 130, NULL, NULL, 1, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('IC', 'ICWAREHOUSE', 100, 250, NULL, NULL, 2, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('IC', 'UNIT', 100, 370, NULL, NULL, 3, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('IC', 'PURPR', 300, 130, NULL, NULL, 4, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('IC', 'ICISSUEUSE', 300, 250, NULL, NULL, 5, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('IC', 'ICTRANSFER', 300, 370, NULL, NULL, 6, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('IC', 'ICSTOCK', 700, 170, NULL, NULL, 7, 1);
+INSERT INTO QD8TDiagramItem (TDgITCmGAlias, TDgITCmdAlias, TDgIX, TDgIY, TDgICaption, TDgICaption2, TDgISort, TDgIFlag1) VALUES ('IC', 'ICMOVEMENT', 700, 330, NULL, NULL, 8, 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('IC', 'ICPRODUCT', 'PURPR', 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('IC', 'ICPRODUCT', 'ICISSUEUSE', 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('IC', 'ICWAREHOUSE', 'ICTRANSFER', 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('IC', 'ICISSUEUSE', 'ICMOVEMENT', 1);
+INSERT INTO QD8TDiagramArrow (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias, TDgAFlag1) VALUES ('IC', 'ICTRANSFER', 'ICSTOCK', 1);

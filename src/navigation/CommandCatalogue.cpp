@@ -52,6 +52,14 @@ Sql CommandCatalogue::aliasLookupSql(const QString& alias)
     return Sql("SELECT TCmdAlias FROM QD8TCommand WHERE TCmdAlias=") + quoted(alias.trimmed());
 }
 
+Sql CommandCatalogue::moduleCommandsSql(const QString& commandGroup)
+{
+    Sql sql("SELECT * FROM QD8TCommand WHERE TCmdActiveStatus=1 AND TCmdFlag1=1");
+    if (!commandGroup.isEmpty())
+        sql += Sql(" AND TCmdTCmGAlias=") + quoted(commandGroup);
+    return sql + " ORDER BY TCmdTCmGAlias, TCmdSort";
+}
+
 QString CommandCatalogue::withoutAccelerators(const QString& caption)
 {
     QString cleaned = caption;
@@ -95,6 +103,8 @@ CommandEntry CommandCatalogue::entry(const Recordset& rs, int language, bool wit
 {
     CommandEntry entry;
     entry.alias = rs.text(QStringLiteral("TCmdAlias"));
+    entry.group = rs.text(QStringLiteral("TCmdTCmGAlias"));
+    entry.type = rs.text(QStringLiteral("TCmdType"));
     const QVariant name = rs.field(QStringLiteral("TCmdName"));
     if (name.isNull()) {
         entry.caption = QStringLiteral(" ");
@@ -132,11 +142,7 @@ void CommandCatalogue::load(CommandSet set, const std::function<bool(const Comma
         catalogue.open(m_session.AppConnectionString);
         const int language = languageId();
         if (set == CommandSet::Main) {
-            Recordset rs;
-            rs.open(mainListSql(m_session.CommandGroup), catalogue);
-            for (; !rs.eof(); rs.moveNext())
-                if (!visit(entry(rs, language, withIcons)))
-                    return;
+            visitRows(mainListSql(m_session.CommandGroup), catalogue, language, withIcons, visit);
             return;
         }
         // Module and user lists: the session database names the commands, the catalogue
@@ -148,25 +154,45 @@ void CommandCatalogue::load(CommandSet set, const std::function<bool(const Comma
         list.open(module ? moduleListSql(m_session.CommandGroup) : userListSql(m_session.UserID), session);
         const QString idField = module ? QStringLiteral("TMdCTCmdID") : QStringLiteral("TUsCTCmdID");
         for (; !list.eof(); list.moveNext()) {
-            Recordset rs;
             try {
-                rs.open(commandByIdSql(list.text(idField)), catalogue);
-            } catch (const DbError&) {
-                continue;
-            }
-            for (; !rs.eof(); rs.moveNext())
-                if (!visit(entry(rs, language, withIcons)))
+                if (!visitRows(commandByIdSql(list.text(idField)), catalogue, language, withIcons, visit))
                     return;
+            } catch (const DbError&) {
+                // A command that cannot be read adds nothing; the next one may.
+            }
         }
     } catch (const DbError&) {
         // A database that cannot be read leaves the list as far as it got.
     }
 }
 
+void CommandCatalogue::load(const Sql& statement, int language, const std::function<bool(const CommandEntry&)>& visit) const
+{
+    if (m_session.ConnectionString.isEmpty() || m_session.AppConnectionString.isEmpty())
+        return;
+    LookupScope scope;
+    try {
+        Connection catalogue;
+        catalogue.open(m_session.AppConnectionString);
+        visitRows(statement, catalogue, language, true, visit);
+    } catch (const DbError&) {
+        // As far as it got, as the lists.
+    }
+}
+
+bool CommandCatalogue::visitRows(const Sql& statement, Connection& catalogue, int language, bool withIcons,
+    const std::function<bool(const CommandEntry&)>& visit) const
+{
+    Recordset rs;
+    rs.open(statement, catalogue);
+    for (; !rs.eof(); rs.moveNext())
+        if (!visit(entry(rs, language, withIcons)))
+            return false;
+    return true;
+}
+
 QString CommandCatalogue::storedAlias(const QString& alias) const
 {
-    if (!canLoad())
-        return {};
     try {
         Connection catalogue;
         catalogue.open(m_session.AppConnectionString);

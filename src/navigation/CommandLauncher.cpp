@@ -11,7 +11,10 @@ void CommandLauncher::deriveCommandCentre()
 
 bool CommandLauncher::launch(const QString& alias)
 {
-    QString stored = catalogue().storedAlias(alias);
+    const CommandCatalogue commands = catalogue();
+    if (!canLaunch(commands))
+        return false;
+    QString stored = commands.storedAlias(alias);
     if (stored.isEmpty())
         return false;
     Q_EMIT Lunch(stored);

@@ -27,6 +27,8 @@ protected:
     // Looks the alias up again and raises Lunch with the stored alias; an alias no longer
     // in the catalogue launches nothing. False when it was not found.
     bool launch(const QString& alias);
+    // The lists launch only with a session database and an icon folder.
+    virtual bool canLaunch(const CommandCatalogue& commands) const { return commands.canLoad(); }
 
 private:
     QString m_commandCentre;

@@ -100,7 +100,7 @@ protected:
 TEST_P(WorkbenchTest, LoggingInChecksThePasswordAndTakesTheUsersLanguage)
 {
     const QList<WorkbenchUser> users = session.users();
-    ASSERT_EQ(users.size(), 3);
+    ASSERT_EQ(users.size(), 4);
     EXPECT_EQ(users[1].name + "|" + users[2].loginName, "สมชาย ใจดี|JOHN");
     EXPECT_FALSE(session.logIn("SOMCHAI", "12345") || session.logIn("NOBODY", ""));
     EXPECT_TRUE(session.logIn("john", "1234"));
