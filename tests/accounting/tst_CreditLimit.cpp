@@ -87,12 +87,7 @@ TEST_P(CreditLimitTest, SendsTheStatementsAsWritten)
 
 TEST_P(CreditLimitTest, AmountsAndUsableCreditFollowTheOption)
 {
-    struct Case {
-        const char* option;
-        const char* customer;
-        const char* afterCheques;
-        const char* balance;
-    };
+    struct Case { const char* option; const char* customer; const char* afterCheques; const char* balance; };
     const Case cases[] = {
         {"0", "C1", "51999.75", "51999.75"},   // cheques of status 0 and 1 only
         {"1", "C1", "60000", "60000"},

@@ -5,7 +5,6 @@
 #include "accounting/GLControl.h"
 #include "database/DataObject.h"
 #include "foundation/Connection.h"
-#include "foundation/Recordset.h"
 #include "foundation/SqlTrace.h"
 #include "foundation/TransactionGuard.h"
 #include "widgets/GridEditor.h"
@@ -52,15 +51,6 @@ void fixture(const QString& cs)
         c.execute(Sql(sql));
 }
 
-qint64 count(const QString& cs, const char* sql)
-{
-    Connection c;
-    c.open(cs);
-    Recordset rs;
-    rs.open(Sql(sql), c);
-    return rs.field(0).toLongLong();
-}
-
 // A voucher panel on a scratch company database of the engine under test.
 class GLControlTest : public EngineTest {
 protected:
@@ -92,7 +82,7 @@ protected:
         p.FillLine("1100", true, money("100"));
         p.FillLine("4100", false, money("100"));
     }
-    qint64 count(const char* sql) const { return ::count(db->connectionString(), sql); }
+    qint64 count(const char* sql) const { return queryColumn(db->connectionString(), Sql(sql)).value(0).toLongLong(); }
     std::unique_ptr<ScratchDatabase> db;
     std::unique_ptr<GLControl> gl;
 };

@@ -2,8 +2,6 @@
 #include "support/ScriptedServices.h"
 
 #include "accounting/PointControl.h"
-#include "foundation/Connection.h"
-#include "foundation/Recordset.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -37,7 +35,6 @@ protected:
             return;
         db->createSchema(DatabaseRole::CompanyData);
         db->run(Fixture);
-        installScriptedServices();
         panel.SetFirst(db->connectionString(), 1, QStringLiteral("SO"), 1);
     }
     QLineEdit* field(const char* name) const { return panel.findChild<QLineEdit*>(QString::fromLatin1(name)); }
@@ -54,21 +51,11 @@ TEST_P(PointControlTest, PickListOffersOnlyFreeApprovedDocumentsAndFillsTheChoic
     const PickRequest& r = scriptedPicker().requests[0];
     EXPECT_EQ(r.source, "QD8VPointTransH WHERE (TPiTRefNo='' or TPiTRefNo is null) AND TPiTCancelStatus=0 AND TPiTApproveStatus=1 "
                         "AND TPiTType=1 AND TPiTTARNCode='C1' ORDER BY TPiTNo");
-    EXPECT_EQ(r.keyField, "TPiTNo");
-    EXPECT_EQ(r.fieldList, "TPiTNo,TPiTDate,TPiTTARNCode,TARNName,TPiTTotalQuantity,TPITDescription");
-    EXPECT_EQ(r.typeList, "0,6,0,0,2,0");
-    EXPECT_EQ(r.widthList, "1600,1000,1000,3000,1000,4000");
-    EXPECT_EQ(r.captionList, "เลขที่เอกสาร,วันที่,รหัสลูกค้า,ชื่อลูกค้า,จำนวน Point,หมายเหตุ");
-    EXPECT_EQ(r.title, "เลือกรายละเอียดใบใช้ Point");
+    EXPECT_EQ(QStringList({r.title, r.keyField, r.fieldList, r.captionList, r.widthList, r.typeList}),
+        QStringList({"เลือกรายละเอียดใบใช้ Point", "TPiTNo", "TPiTNo,TPiTDate,TPiTTARNCode,TARNName,TPiTTotalQuantity,TPITDescription",
+            "เลขที่เอกสาร,วันที่,รหัสลูกค้า,ชื่อลูกค้า,จำนวน Point,หมายเหตุ", "1600,1000,1000,3000,1000,4000", "0,6,0,0,2,0"}));
     // The list's rows on the engine: referred, cancelled, unapproved and other types never show.
-    Connection c;
-    c.open(db->connectionString());
-    Recordset rs;
-    rs.open(Sql("SELECT TPiTNo FROM ") + r.source, c);
-    QStringList offered;
-    for (; !rs.eof(); rs.moveNext())
-        offered << rs.text(QStringLiteral("TPiTNo"));
-    EXPECT_EQ(offered, QStringList({"P1", "P6"}));
+    EXPECT_EQ(queryColumn(db->connectionString(), Sql("SELECT TPiTNo FROM ") + r.source), QStringList({"P1", "P6"}));
     // The choice: its usage shown positive, its persons, and DataChange once.
     EXPECT_EQ(panel.PointNo(), "P1");
     EXPECT_EQ(panel.PointUse(), 300);
@@ -79,10 +66,7 @@ TEST_P(PointControlTest, PickListOffersOnlyFreeApprovedDocumentsAndFillsTheChoic
 
 TEST_P(PointControlTest, RefusalsOpenNoList)
 {
-    struct Case {
-        const char* customer;
-        const char* message;
-    };
+    struct Case { const char* customer; const char* message; };
     const Case cases[] = {{"", "กรุณาระบุลูกค้า ก่อน เลือกรายการ"}, {"  ", "กรุณาระบุลูกค้า ก่อน เลือกรายการ"}, {"O'NEIL", "O'NEIL"}};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.customer);
@@ -98,12 +82,7 @@ TEST_P(PointControlTest, RefusalsOpenNoList)
 
 TEST_P(PointControlTest, EnterValidatesTheTypedNumber)
 {
-    struct Case {
-        const char* number;
-        double use;
-        int messages;
-        int changes;
-    };
+    struct Case { const char* number; double use; int messages; int changes; };
     const Case cases[] = {{"P1", 300, 0, 1}, {"NONE", 0, 1, 0}, {"P'1", 0, 1, 0}};
     for (const Case& c : cases) {
         SCOPED_TRACE(c.number);

@@ -13,13 +13,10 @@ namespace {
 
 class CursorTest : public SampleTableTest {
 protected:
-    void addRows(int count)
+    void addRows(int count) const
     {
-        Connection c;
-        c.open(db->connectionString());
-        c.execute(Sql(QStringLiteral("INSERT INTO QD8TSample (TSmpID, TSmpCode) "
-                                     "WITH RECURSIVE g(n) AS (SELECT 100 UNION ALL SELECT n + 1 FROM g WHERE n < %1) "
-                                     "SELECT n, 'R' || n FROM g").arg(99 + count)));
+        db->run({QStringLiteral("INSERT INTO QD8TSample (TSmpID, TSmpCode) WITH RECURSIVE g(n) AS (SELECT 100 UNION ALL "
+                                "SELECT n + 1 FROM g WHERE n < %1) SELECT n, 'R' || n FROM g").arg(99 + count)});
     }
 };
 

@@ -81,9 +81,7 @@ TEST_P(RecordsetTest, UpdateFindsTheRowByItsOriginalKeyAndChangedValues)
         .arg(col("TSmpID"), col("TSmpName"), mark(1), mark(2), mark(3), mark(4)));
     EXPECT_EQ(rs.field("TSmpID").toInt(), 11);
 
-    Recordset check;
-    check.open("SELECT TSmpName FROM QD8TSample WHERE TSmpID=11", connection);
-    EXPECT_EQ(check.text("TSmpName"), QStringLiteral("กาแฟ"));
+    EXPECT_EQ(queryColumn(db->connectionString(), "SELECT TSmpName FROM QD8TSample WHERE TSmpID=11"), QStringList{"กาแฟ"});
 }
 
 TEST_P(RecordsetTest, AnUpdateOverAnotherUsersChangeIsAConflictAndOverwritesNothing)
@@ -96,20 +94,13 @@ TEST_P(RecordsetTest, AnUpdateOverAnotherUsersChangeIsAConflictAndOverwritesNoth
     other.execute("DELETE FROM QD8TSample WHERE TSmpID=2");
 
     mine.setField("TSmpName", QStringLiteral("mine"));
-    try {
-        mine.update();
-        FAIL() << "the other user's change was overwritten";
-    } catch (const DbError& e) {
-        EXPECT_EQ(e.kind(), DbError::Kind::Conflict);
-    }
+    EXPECT_EQ(dbErrorOf([&] { mine.update(); }).kind(), DbError::Kind::Conflict);  // else the other user's change is overwritten
     mine.cancelUpdate();
     mine.moveNext();
     mine.setField("TSmpCode", QStringLiteral("Z"));
     EXPECT_THROW(mine.update(), DbError);
 
-    Recordset check;
-    check.open("SELECT TSmpName FROM QD8TSample WHERE TSmpID=1", connection);
-    EXPECT_EQ(check.text("TSmpName"), QStringLiteral("theirs"));
+    EXPECT_EQ(queryColumn(db->connectionString(), "SELECT TSmpName FROM QD8TSample WHERE TSmpID=1"), QStringList{"theirs"});
 }
 
 TEST_P(RecordsetTest, OnlyOptimisticSelectStarOfOneTableCanWrite)

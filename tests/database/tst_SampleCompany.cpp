@@ -35,19 +35,11 @@ const QSet<QString> IconsMeantMissing = {QStringLiteral("SOPROMO.ico"), QStringL
 // Every icon name of the catalogue with the size it is shown at.
 QList<QPair<QString, int>> catalogueIcons(const QString& appConnectionString)
 {
-    Connection app;
-    app.open(appConnectionString);
     QList<QPair<QString, int>> names;
-    const auto collect = [&](const char* sql, const char* field, int size) {
-        Recordset rs;
-        rs.open(Sql(sql), app);
-        for (; !rs.eof(); rs.moveNext())
-            if (!rs.field(QLatin1String(field)).isNull())
-                names.append({rs.text(QLatin1String(field)), size});
-    };
-    collect("SELECT TCmdIcon FROM QD8TCommand", "TCmdIcon", 32);
-    collect("SELECT TCmdSmallIcon FROM QD8TCommand", "TCmdSmallIcon", 16);
-    collect("SELECT TCmGIcon FROM QD8TCommandGroup", "TCmGIcon", 32);
+    for (const auto& [column, table, size] :
+        {std::tuple{"TCmdIcon", "QD8TCommand", 32}, {"TCmdSmallIcon", "QD8TCommand", 16}, {"TCmGIcon", "QD8TCommandGroup", 32}})
+        for (const QString& name : queryColumn(appConnectionString, Sql("SELECT ") + column + " FROM " + table + " WHERE " + column + " IS NOT NULL"))
+            names.append({name, size});
     return names;
 }
 
@@ -208,9 +200,24 @@ TEST(SampleFiles, ThePostgresFormWritesTheFilesWhereItIsTold)
     }
     EXPECT_FALSE(QFileInfo::exists(files.filePath(QStringLiteral("QD8Command.dat"))));
 
-    // A second run without --force refuses before it touches a database or a file.
+    // A second run without --force refuses before it touches a database or a file; with it,
+    // it makes them again.
     EXPECT_EQ(runAdmin(arguments, &output), 1);
     EXPECT_TRUE(output.contains(QStringLiteral("Theme.ini already exists"))) << output.toStdString();
+    EXPECT_EQ(runAdmin(arguments + QStringList{QStringLiteral("--force")}, &output), 0) << output.toStdString();
+    for (const QString& name : names)
+        EXPECT_EQ(runAdmin({QStringLiteral("check"), QStringLiteral("Driver=PostgreSQL;Database=") + name}, &output), 0)
+            << output.toStdString();
+    // The session database reaches the catalogue's commands, read-only.
+    {
+        Connection session;
+        session.open(QStringLiteral("Driver=PostgreSQL;Database=") + names[2]);
+        Recordset rs;
+        rs.open(Sql("SELECT COUNT(*) FROM QD8TUserCommand JOIN QD8TCommand ON TUsCTCmdID = TCmdID"), session);
+        EXPECT_GT(rs.field(0).toInt(), 0);
+        EXPECT_THROW(session.execute(Sql("DELETE FROM QD8TCommand")), DbError);
+    }
+    ConnectionPool::instance().clear(QStringLiteral("Driver=PostgreSQL;Database=") + names[2]);
     dropDatabases(names);
 }
 
@@ -257,12 +264,7 @@ protected:
         SampleCompanyTest::TearDown();
     }
 
-    QString lookup(const QString& sql)
-    {
-        Recordset rs;
-        rs.open(Sql(sql), app);
-        return rs.eof() ? QString() : rs.text(rs.fieldName(0));
-    }
+    QString lookup(const QString& sql) const { return queryColumn(appConnectionString(), Sql(sql)).value(0); }
     // The key field as the lists take it: from the document code when the list names one.
     QString keyOf(const Definition& d)
     {
@@ -514,7 +516,6 @@ protected:
 
 TEST_P(SampleReferencesTest, EveryMasterOthersReferToRefusesToDeleteARowInUse)
 {
-    installScriptedServices();
     Connection data;
     data.open(dataConnectionString());
     int refused = 0;
@@ -592,14 +593,7 @@ protected:
     {
         return runAdmin(QStringList{QStringLiteral("generate"), QStringLiteral("documents")} + arguments + target, output);
     }
-    qint64 number(const QString& sql)
-    {
-        Connection data;
-        data.open(dataCs);
-        Recordset rs;
-        rs.open(Sql(sql), data);
-        return rs.field(0).toLongLong();
-    }
+    qint64 number(const QString& sql) const { return queryColumn(dataCs, Sql(sql)).value(0).toLongLong(); }
 
     QTemporaryDir dir;
     QStringList names;

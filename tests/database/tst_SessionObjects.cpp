@@ -38,12 +38,7 @@ TEST_P(SessionObjectsTest, CommandCaptionsPreferTheCommandCentre)
 {
     DbSessionFunctions functions;
     const QString centre = centreConnectionString();
-    struct Case {
-        int language;
-        const char* alias;
-        const char* reportNo;
-        const char* expected;
-    };
+    struct Case { int language; const char* alias; const char* reportNo; const char* expected; };
     const Case cases[] = {
         {0, "ARINVOICE", "", "ใบแจ้งหนี้/ใบกำกับภาษี"},
         {1, "ARINVOICE", "", "Invoice / Tax Invoice"},

@@ -57,10 +57,7 @@ protected:
 
 TEST_P(CaptionPlaceholdersTest, PlaceholdersReadTheCompanyOptions)
 {
-    const struct {
-        const char* text;
-        const char* expected;
-    } cases[] = {
+    const struct { const char* text; const char* expected; } cases[] = {
         {"{Custom1}", "สีรถ"},
         {"{custom1}", "สีรถ"},
         {"{CUSTOM3}", "Size"},
@@ -93,10 +90,7 @@ TEST_P(CaptionPlaceholdersTest, PlaceholdersReadTheCompanyOptions)
 
 TEST_P(CaptionPlaceholdersTest, FormulaNameFallsBackWhenTheGroupHasNoName)
 {
-    const struct {
-        const char* code;
-        const char* expected;
-    } cases[] = {
+    const struct { const char* code; const char* expected; } cases[] = {
         {"FM02", "สูตรย่อย"},
         {"FM03", "รหัสสูตร"},
         {"FM99", "รหัสสูตร"},
@@ -123,11 +117,7 @@ TEST_P(CaptionPlaceholdersTest, OptionsAreReadOncePerInstance)
 TEST_P(CaptionPlaceholdersTest, TextsAndNumbersAreTheExpandedTextTrimmed)
 {
     CaptionPlaceholders p = placeholders();
-    const struct {
-        const char* text;
-        const char* trimmed;
-        double number;
-    } cases[] = {
+    const struct { const char* text; const char* trimmed; double number; } cases[] = {
         {"  {Custom1}  ", "สีรถ", 0},
         {"{MRPGROUPCAPTION}", "กลุ่มสินค้า", 0},
         {"{Custom4}", "1500.25", 1500.25},
@@ -147,10 +137,7 @@ TEST_P(CaptionPlaceholdersTest, TextsAndNumbersAreTheExpandedTextTrimmed)
 TEST_P(CaptionPlaceholdersTest, DatesReadTodayAndBothNotations)
 {
     CaptionPlaceholders p = placeholders();
-    const struct {
-        const char* text;
-        QDate expected;
-    } cases[] = {
+    const struct { const char* text; QDate expected; } cases[] = {
         {"{TODAY}", Today},
         {" {today} ", Today},
         {"{TODAY-7}", Today.addDays(-7)},

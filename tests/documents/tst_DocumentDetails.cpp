@@ -23,7 +23,6 @@ protected:
         SampleCompanyTest::SetUp();
         if (IsSkipped())
             return;
-        installScriptedServices();
         runOnData({"INSERT INTO QD8TOptionValue (TOpVScope, TOpVScopeKey, TOpVTOptAlias, TOpVValue, TOpVNumber) VALUES ('COMPANY', '', "
                    "'InventoryCustom1', 'สี', 0)",
             "INSERT INTO QD8TOptionValue (TOpVScope, TOpVScopeKey, TOpVTOptAlias, TOpVValue, TOpVNumber) VALUES ('COMPANY', '', "
@@ -88,11 +87,7 @@ TEST_P(DocumentDetailsTest, TheStatusShowsTheHeaderWithAndWithoutWhereAndTheWhol
     DocumentStatus status;
     int header = 0, history = 1, unused = 0;
     QString no = "IS0000901", none, key = "TInvNo", prefix = "TInv", table = "QD8TInventory", cs = dataConnectionString();
-    const struct {
-        int* mode;
-        QString where;
-        QStringList actions;
-    } cases[] = {
+    const struct { int* mode; QString where; QStringList actions; } cases[] = {
         {&header, {}, {"Create", "Edit R1", "Checked", "Rejected", "Revise"}},
         {&header, "TInvCancelStatus=1", {}},
         {&history, "TInvCancelStatus=0", {"Create", "Edit R1", "Checked", "Rejected", "Revise", "Create", "Edit", "Confirm", "Memo"}},

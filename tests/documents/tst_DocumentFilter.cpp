@@ -28,11 +28,7 @@ TEST(DocumentFilter, EachChoiceAddsItsConditionInItsPlace)
         change(f);
         return f;
     };
-    const struct {
-        const char* name;
-        DocumentFilter filter;
-        QString expected;
-    } cases[] = {
+    const struct { const char* name; DocumentFilter filter; QString expected; } cases[] = {
         {"nothing chosen", {}, ""},
         {"restricted user, status 9 and the second list",
             with([](DocumentFilter& f) { f.employeeScope = "TEmpTEMTCode IN ('01')"; f.statusCode = "9"; f.status2 = 1; }),

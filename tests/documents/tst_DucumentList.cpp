@@ -69,7 +69,6 @@ protected:
         SampleCompanyTest::SetUp();
         if (IsSkipped())
             return;
-        installScriptedServices();
         QStringList rows{QStringLiteral("DELETE FROM QD8TPR"),
             QStringLiteral("DELETE FROM QD8TUserSetting WHERE TUsSAlias IN ('ApproveNoteFilter', 'ApproveNoteValue', 'DefaultUserProject')")};
         for (const auto& d : Documents)

@@ -23,7 +23,6 @@ protected:
         SampleCompanyTest::SetUp();
         if (IsSkipped())
             return;
-        installScriptedServices();
         selector.setAppConnectionString(appConnectionString());
         selector.SetFirst2(dataConnectionString(), 1);
     }
@@ -94,12 +93,7 @@ TEST_P(JobSelectorTest, TheThreeListsAreDescribedAsTheSuiteDescribesThem)
     selector.setJobNo("JOB0000001");
     selector.setJobLn(1);
     const QString today = QDate::currentDate().toString(Qt::ISODate);
-    const struct {
-        PickRequest request;
-        const char* title;
-        const char* source;
-        QStringList firstKeys;
-    } cases[] = {
+    const struct { PickRequest request; const char* title; const char* source; QStringList firstKeys; } cases[] = {
         {selector.jobListRequest(), "เลือกรายละเอียดใบสั่งงาน",
             "QD8VJob WHERE  (TJobInvoiceStatus=0 OR TJobInvoiceStatus is null OR TJobIVCloseDate>='%1') AND TJbMProcessStatus<3 AND "
             "TJobCloseStatus<>1 AND TJobCancelStatus<>1 AND TJobConfirmStatus=1 AND TJobApproveStatus=1  AND TJobType in (0,3) AND "
@@ -127,14 +121,7 @@ TEST_P(JobSelectorTest, TheThreeListsAreDescribedAsTheSuiteDescribesThem)
 
 TEST_P(JobSelectorTest, RequirementLevelsDecideWhichOfTheFiveMessagesApplies)
 {
-    const struct {
-        int job, mds, pd;
-        QString jobNo;
-        int jobLn, stepLn;
-        QString production;
-        int productionLn;
-        const char* message;
-    } cases[] = {
+    const struct { int job, mds, pd; QString jobNo; int jobLn, stepLn; QString production; int productionLn; const char* message; } cases[] = {
         {0, 0, 0, "", 0, 0, "", 0, ""},
         {1, 0, 0, "", 0, 0, "", 0, "กรุณาเลือก ใบสั่งงาน"},
         {1, 0, 0, "JOB0000001", 0, 0, "", 0, ""},

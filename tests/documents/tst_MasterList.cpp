@@ -46,7 +46,6 @@ protected:
         SampleCompanyTest::SetUp();
         if (IsSkipped())
             return;
-        installScriptedServices();
         runOnData({"DELETE FROM QD8TAR2", "DELETE FROM QD8TAR",
             "INSERT INTO QD8TAR (TARNCode, TARNName, TARNName2, TARNCreditLimit, TARNFlag1) VALUES ('C01', 'ACME Trading', 'Acme', 50000, 1)",
             "INSERT INTO QD8TAR (TARNCode, TARNName, TARNName2, TARNCreditLimit, TARNFlag1) VALUES ('C02', 'บริษัท สยามค้าส่ง', 'Siam Wholesale', 0, 0)",
@@ -100,11 +99,7 @@ const QString Head = QStringLiteral("SELECT TARNCode,TARNName,TARNName2,TARNCred
 
 TEST_P(MasterListTest, TheInUseChoiceFiltersOnFlag1WithNullAsNotInUse)
 {
-    const struct {
-        int index;
-        QString condition;
-        QStringList customers;
-    } cases[] = {{0, " AND TARNFlag1=1", {"C01"}}, {1, "", {"C01", "C02", "C03"}},
+    const struct { int index; QString condition; QStringList customers; } cases[] = {{0, " AND TARNFlag1=1", {"C01"}}, {1, "", {"C01", "C02", "C03"}},
         {2, " AND (TARNFlag1=0 OR TARNFlag1 is null)", {"C02", "C03"}}};
     EXPECT_EQ(list.findChild<QComboBox*>("ComboListDesigner1")->currentIndex(), 1);  // the definition's default
     for (const auto& c : cases) {
@@ -145,12 +140,7 @@ TEST_P(MasterListTest, AQuoteInTheSearchIsRefusedAndNothingRuns)
 
 TEST(MasterListSearch, OnlyColumnsTypedAsTextTakePart)
 {
-    const struct {
-        const char* text;
-        const char* columns;
-        const char* types;
-        const char* condition;
-    } cases[] = {
+    const struct { const char* text; const char* columns; const char* types; const char* condition; } cases[] = {
         {"ab", "A,B,C", "0,1,0", " AND (A LIKE '%ab%' OR C LIKE '%ab%')"},
         {"ab", "A,B", "1,2", ""},
         {"ab", "A,B", "0", " AND (A LIKE '%ab%')"},  // a missing type is no text

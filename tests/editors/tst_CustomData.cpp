@@ -2,8 +2,6 @@
 #include "support/ScriptedServices.h"
 
 #include "editors/CustomData.h"
-#include "foundation/Connection.h"
-#include "foundation/Recordset.h"
 #include "foundation/SqlTrace.h"
 #include "widgets/GridEditor.h"
 
@@ -26,14 +24,8 @@ protected:
     }
     QStringList rows() const
     {
-        Connection c;
-        c.open(dataConnectionString());
-        Recordset rs;
-        rs.open("SELECT TCS1Type, TCS1Code, TCS1Name FROM QD8TCustom1 ORDER BY TCS1Type, TCS1Code", c);
-        QStringList found;
-        for (; !rs.eof(); rs.moveNext())
-            found << rs.text("TCS1Type") + "/" + rs.text("TCS1Code") + "/" + rs.text("TCS1Name");
-        return found;
+        return queryColumn(dataConnectionString(),
+            "SELECT TCS1Type || '/' || TCS1Code || '/' || COALESCE(TCS1Name, '') FROM QD8TCustom1 ORDER BY TCS1Type, TCS1Code");
     }
     int rowOf(const QString& code) const
     {
@@ -47,11 +39,7 @@ protected:
 
 TEST_P(CustomDataTest, ListsAreOfferedLoadedAndPrintedWithTheirOwnStatements)
 {
-    const struct {
-        const char* group;
-        const char* listing;
-        const char* source;
-    } cases[] = {
+    const struct { const char* group; const char* listing; const char* source; } cases[] = {
         {"", "SELECT * FROM QD8VCustomData ORDER BY TCusName", "QD8VCustomData WHERE TCusFlag1=1 AND TCmGFlag1=1  AND TCusMode=0 ORDER BY TCusName"},
         {"SO", "SELECT * FROM QD8VCustomData WHERE TCmGAlias='SO' ORDER BY TCusName",
             "QD8VCustomData WHERE TCusFlag1=1 AND TCmGFlag1=1 AND TCusMode=0 AND TCmGAlias='SO' ORDER BY TCusName"},

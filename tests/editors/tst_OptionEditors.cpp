@@ -44,11 +44,8 @@ protected:
     }
     QString stored(const QString& scope, const QString& key, const QString& alias) const
     {
-        Connection c;
-        c.open(dataConnectionString());
-        Recordset rs;
-        rs.open("SELECT TOpVValue FROM QD8TOptionValue WHERE TOpVScope='" + scope + "' AND TOpVScopeKey='" + key + "' AND TOpVTOptAlias='" + alias + "'", c);
-        return rs.eof() ? "(none)" : rs.text("TOpVValue");
+        return queryColumn(dataConnectionString(), "SELECT TOpVValue FROM QD8TOptionValue WHERE TOpVScope='" + scope + "' AND TOpVScopeKey='"
+            + key + "' AND TOpVTOptAlias='" + alias + "'").value(0, "(none)");
     }
     static int rowOf(OptionEditor& e, const QString& alias)
     {

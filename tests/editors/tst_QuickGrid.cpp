@@ -67,14 +67,7 @@ protected:
     }
     QStringList divisions() const
     {
-        Connection c;
-        c.open(dataConnectionString());
-        Recordset rs;
-        rs.open("SELECT TDivCode, TDivName, TDivSort FROM QD8TDivision ORDER BY TDivCode", c);
-        QStringList rows;
-        for (; !rs.eof(); rs.moveNext())
-            rows << rs.text("TDivCode") + "|" + rs.text("TDivName") + "|" + QString::number(rs.field("TDivSort").toInt());
-        return rows;
+        return queryColumn(dataConnectionString(), "SELECT TDivCode || '|' || TDivName || '|' || TDivSort FROM QD8TDivision ORDER BY TDivCode");
     }
     // The buttons on the bar, those of them a click reaches marked "*".
     QStringList bar() const
@@ -457,13 +450,8 @@ TEST_P(QuickGridTest, ANewRowOfAnAutonumberFormGetsItsKeyFromTheDatabase)
 
 TEST_P(QuickGridTest, EverySampleQuickFormLoadsAndItsPickListRuns)
 {
-    Connection app;
-    app.open(appConnectionString());
-    Recordset forms;
-    forms.open("SELECT TQFmAlias FROM QD8TQuickForm WHERE TQFmFlag1=1 AND TQFmAlias NOT IN ('QDIV','QDEP') ORDER BY TQFmAlias", app);
-    QStringList aliases;
-    for (; !forms.eof(); forms.moveNext())
-        aliases << forms.text("TQFmAlias");
+    const QStringList aliases = queryColumn(appConnectionString(),
+        "SELECT TQFmAlias FROM QD8TQuickForm WHERE TQFmFlag1=1 AND TQFmAlias NOT IN ('QDIV','QDEP') ORDER BY TQFmAlias");
     ASSERT_GE(aliases.size(), 9);
     Connection data;
     data.open(dataConnectionString());

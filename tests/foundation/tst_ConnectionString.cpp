@@ -1,9 +1,11 @@
 #include "foundation/ConnectionString.h"
 #include "foundation/DbError.h"
+#include "support/ScratchDatabase.h"
 
 #include <gtest/gtest.h>
 
 using namespace qd8;
+using namespace qd8::test;
 
 namespace {
 
@@ -16,14 +18,9 @@ class MalformedConnectionString : public testing::TestWithParam<Malformed> {};
 
 TEST_P(MalformedConnectionString, IsRefusedWithAMessageNamingTheProblem)
 {
-    try {
-        ConnectionString::parse(QString::fromUtf8(GetParam().text));
-        FAIL() << "accepted: " << GetParam().text;
-    } catch (const DbError& e) {
-        EXPECT_EQ(e.kind(), DbError::Kind::Usage);
-        EXPECT_TRUE(e.message().contains(QString::fromUtf8(GetParam().mentions), Qt::CaseInsensitive))
-            << e.message().toStdString();
-    }
+    const DbError e = dbErrorOf([&] { ConnectionString::parse(QString::fromUtf8(GetParam().text)); });
+    EXPECT_EQ(e.kind(), DbError::Kind::Usage);
+    EXPECT_TRUE(e.message().contains(QString::fromUtf8(GetParam().mentions), Qt::CaseInsensitive)) << e.message().toStdString();
 }
 
 INSTANTIATE_TEST_SUITE_P(Cases, MalformedConnectionString, testing::Values(

@@ -8,12 +8,7 @@ using namespace qd8;
 
 namespace {
 
-struct Parsed {
-    const char* text;
-    bool valid;
-    int64_t raw;
-    const char* shortest;
-};
+struct Parsed { const char* text; bool valid; int64_t raw; const char* shortest; };
 
 class CurrencyText : public testing::TestWithParam<Parsed> {};
 

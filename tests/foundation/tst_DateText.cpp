@@ -119,13 +119,7 @@ INSTANTIATE_TEST_SUITE_P(Cases, DateTimeInput, testing::Values(
     TypedDateTime{"29/02/2566 10:00", ""},
     TypedDateTime{"15/05/2569 noon", ""}));
 
-struct Month {
-    int month;
-    const char* thai;
-    const char* thaiShort;
-    const char* english;
-    const char* englishShort;
-};
+struct Month { int month; const char* thai; const char* thaiShort; const char* english; const char* englishShort; };
 
 class MonthNames : public testing::TestWithParam<Month> {};
 

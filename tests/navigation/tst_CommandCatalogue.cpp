@@ -12,10 +12,7 @@ namespace {
 
 TEST(CommandCatalogue, AcceleratorMarksGoAndDoubledAmpersandsStay)
 {
-    const struct {
-        const char* caption;
-        const char* shown;
-    } cases[] = {
+    const struct { const char* caption; const char* shown; } cases[] = {
         {"&Journal Voucher", "Journal Voucher"},
         {"Credit Limit && Balance", "Credit Limit && Balance"},
         {"&&&Both", "&&Both"},
@@ -36,10 +33,7 @@ TEST(CommandCatalogue, AnIconNeedsAnExistingFileEndingInIco)
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     }
     QDir(folder.path()).mkdir("g.ico");  // a folder with an icon's name counts as existing
-    const struct {
-        QVariant name;
-        const char* key;
-    } cases[] = {
+    const struct { QVariant name; const char* key; } cases[] = {
         {QVariant(), "Blank"},
         {QString("a.ico"), "a.ico"},
         {QString("B.ICO"), "B.ICO"},

@@ -64,12 +64,7 @@ TEST_P(DocumentToolBarTest, TheToggleCyclesUserModuleMainAndBack)
 {
     attach(bar, 1);
     bar.Refresh();
-    struct Step {
-        int mode;
-        const char* caption;
-        const char* toolTip;
-        QStringList shown;
-    };
+    struct Step { int mode; const char* caption; const char* toolTip; QStringList shown; };
     const Step steps[] = {
         {0, "U", "Toggle Buttons: User", {"", "TSTB", "TSTA"}},
         {1, "G", "Toggle Buttons: Group", {"TSTI", "TSTA"}},

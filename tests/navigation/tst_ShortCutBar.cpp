@@ -1,8 +1,6 @@
 #include "navigation/NavigationTest.h"
 
-#include "foundation/Connection.h"
 #include "foundation/PropertyBag.h"
-#include "foundation/Recordset.h"
 #include "foundation/SqlTrace.h"
 #include "navigation/ShortCutBar.h"
 
@@ -35,14 +33,7 @@ protected:
     QStringList captions(CommandSet set) const { return column(bar.listView(set), Qt::DisplayRole); }
     QStringList userCommandIds(qint32 user) const
     {
-        Connection c;
-        c.open(dataConnectionString());
-        Recordset rs;
-        rs.open(Sql("SELECT TUsCTCmdID FROM QD8TUserCommand WHERE TUsCTUsrID=") + qint64(user) + " ORDER BY TUsCSort", c);
-        QStringList ids;
-        for (; !rs.eof(); rs.moveNext())
-            ids << rs.text(QStringLiteral("TUsCTCmdID"));
-        return ids;
+        return queryColumn(dataConnectionString(), Sql("SELECT TUsCTCmdID FROM QD8TUserCommand WHERE TUsCTUsrID=") + qint64(user) + " ORDER BY TUsCSort");
     }
     QStringList launched;
     ShortCutBar bar;
@@ -234,6 +225,7 @@ TEST(ShortCutBarProperties, TheIconFolderIsReadFromOneKeyAndWrittenToAnother)
     bar.writeProperties(saved);
     EXPECT_EQ(saved.keys(), (QStringList{"CommandGroup", "ConnectionString", "IconPath"}));
     ShortCutBar reloaded;
+    reloaded.setIconPath("set before loading");
     reloaded.readProperties(saved);
     EXPECT_EQ(reloaded.IconPath(), "");
     EXPECT_EQ(reloaded.ConnectionString(), "Driver=SQLite;Data Source=a.dat");

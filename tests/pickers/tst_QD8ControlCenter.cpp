@@ -19,10 +19,7 @@ struct MonthPick {
     QDate first;          // SelectMonthYearViewDate
 };
 
-class ControlCenterMonths : public testing::TestWithParam<MonthPick> {
-protected:
-    void SetUp() override { installScriptedServices(); }
-};
+class ControlCenterMonths : public testing::TestWithParam<MonthPick> {};
 
 TEST_P(ControlCenterMonths, GiveMonthYearAndViewTextOrNothing)
 {
@@ -50,7 +47,6 @@ INSTANTIATE_TEST_SUITE_P(Cases, ControlCenterMonths, testing::Values(
 
 TEST(ControlCenter, DatePickersOpenWithTheDefaultsWhereAsked)
 {
-    installScriptedServices();
     QD8ControlCenter centre;
     qint32 left = 120, top = 300;
     scriptedPicker().dateAnswers = {QDateTime(QDate(2026, 5, 16), QTime()), QDateTime(QDate(2026, 5, 16), QTime(14, 30))};
@@ -72,7 +68,6 @@ class ControlCenterSession : public SampleCompanyTest {};
 
 TEST_P(ControlCenterSession, PickersShowTheUsersLanguageAndChosenEra)
 {
-    installScriptedServices();
     QD8ControlCenter english;
     english.SetLast2(QStringLiteral("C:\\u"), QStringLiteral("cc"), QStringLiteral("2"), dataConnectionString(), appConnectionString());
     scriptedPicker().dateAnswers = {QDateTime(QDate(2026, 3, 1), QTime())};

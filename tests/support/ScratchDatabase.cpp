@@ -2,6 +2,7 @@
 
 #include "foundation/Connection.h"
 #include "foundation/ConnectionPool.h"
+#include "foundation/Recordset.h"
 
 #include <QAtomicInt>
 #include <QCoreApplication>
@@ -94,10 +95,31 @@ void ScratchTableTest::SetUp()
     db->run(tableStatements());
 }
 
+QStringList queryColumn(const QString& connectionString, const Sql& sql)
+{
+    Connection connection;
+    connection.open(connectionString);
+    Recordset rs;
+    rs.open(sql, connection);
+    QStringList values;
+    for (; !rs.eof(); rs.moveNext())
+        values << rs.text(rs.fieldName(0));
+    return values;
+}
+
 void typeText(QWidget* widget, const QString& text)
 {
     for (const QChar c : text)
         QTest::sendKeyEvent(QTest::Click, widget, Qt::Key_unknown, QString(c), Qt::NoModifier);
+}
+
+QStringList unnamedWidgets(const QWidget* root)
+{
+    QStringList unnamed;
+    for (const QWidget* w : root->findChildren<QWidget*>())
+        if (!w->objectName().startsWith(QLatin1String("qt_scrollarea")) && w->accessibleName().isEmpty())
+            unnamed << QString::fromLatin1(w->metaObject()->className()) + u' ' + w->objectName();
+    return unnamed;
 }
 
 std::string engineName(const testing::TestParamInfo<Engine>& info)

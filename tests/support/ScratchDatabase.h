@@ -3,6 +3,8 @@
 #include "database/Schema.h"
 #include "support/QtPrinters.h"
 #include "foundation/ConnectionString.h"
+#include "foundation/DbError.h"
+#include "foundation/Sql.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -53,10 +55,29 @@ protected:
     std::unique_ptr<ScratchDatabase> db;
 };
 
+// What `sql` reads on `connectionString`: its first column, row by row, as text.
+QStringList queryColumn(const QString& connectionString, const Sql& sql);
+
 // Types text into a widget as a keyboard sends it (Thai as text, not as key codes).
 void typeText(QWidget* widget, const QString& text);
+// The widgets under `root` a screen reader finds without a name, as "Class objectName"; the
+// scroll areas' own containers are plumbing, never focused or read.
+QStringList unnamedWidgets(const QWidget* root);
 
 std::string engineName(const testing::TestParamInfo<Engine>& info);
+
+// The DbError `work` throws; a test failure, and an error saying so, when it throws none.
+template <typename Work>
+DbError dbErrorOf(Work&& work)
+{
+    try {
+        work();
+    } catch (const DbError& e) {
+        return e;
+    }
+    ADD_FAILURE() << "no DbError was thrown";
+    return DbError(DbError::Kind::Usage, QStringLiteral("nothing was thrown"));
+}
 
 } // namespace qd8::test
 

@@ -1,5 +1,7 @@
 #include "widgets/GridEditor.h"
 
+#include "support/ScratchDatabase.h"
+
 #include "foundation/Currency.h"
 #include "widgets/GridEditorModel.h"
 #include "widgets/Twips.h"
@@ -17,6 +19,7 @@
 #include <gtest/gtest.h>
 
 using namespace qd8;
+using namespace qd8::test;
 
 namespace {
 
@@ -339,13 +342,7 @@ TEST_F(GridEditorTest, EveryWidgetAPersonCanReachHasAName)
     type("1");
     ASSERT_NE(editor(), nullptr);
     EXPECT_EQ(editor()->accessibleName(), QStringLiteral("วงเงิน"));
-    QStringList unnamed;
-    for (QWidget* w : grid.findChildren<QWidget*>()) {
-        // The scroll area's own containers are plumbing, never focused or read.
-        if (!w->objectName().startsWith(QLatin1String("qt_scrollarea")) && w->accessibleName().isEmpty())
-            unnamed << QString::fromLatin1(w->metaObject()->className()) + u' ' + w->objectName();
-    }
-    EXPECT_TRUE(unnamed.isEmpty()) << unnamed.join(u',').toStdString();
+    EXPECT_EQ(unnamedWidgets(&grid), QStringList());
     EXPECT_EQ(grid.findChild<QProgressBar*>()->accessibleName(), QStringLiteral("Clearing Zero Value"));
 }
 

@@ -13,8 +13,7 @@ using namespace qd8::test;
 
 namespace {
 
-// A control as the editors are built: eight tool-bar buttons, design-time keys that are
-// read under one name and written under another (as the shortcut bar's icon folder is).
+// A control as the editors are built: eight tool-bar buttons.
 class ToolBarControl : public HostedControl {
 public:
     ToolBarControl()
@@ -26,14 +25,6 @@ public:
         }
     }
     QToolButton* button(const QString& key) const { return findChild<QToolButton*>(key); }
-
-protected:
-    QStringList propertyKeysRead() const override { return {"ConnectionString", "CommandGroup", "mIconPath"}; }
-    QStringList propertyKeysWritten() const override { return {"ConnectionString", "CommandGroup", "IconPath"}; }
-    void setDesignProperty(const QString& key, const QString& value) override
-    {
-        HostedControl::setDesignProperty(key == QLatin1String("mIconPath") ? QStringLiteral("IconPath") : key, value);
-    }
 };
 
 // A permission object answering from a table and recording the order of the questions.
@@ -54,30 +45,17 @@ private:
     int m_every;
 };
 
-TEST(HostedControl, SetPermissionDisablesInTheSuitesOrderAndNeverEnables)
+TEST(HostedControl, SetPermissionByNameDisablesInTheSuitesOrderAndNeverEnables)
 {
+    // Through the meta-object, as a late-binding host calls it; then a C++ call granting all.
     ToolBarControl control;
     TablePermission none(0), all(1);
-    control.SetPermission(none);
-    EXPECT_EQ(none.asked, PermissionObject::ToolBarKeys);
-    for (const QString& key : PermissionObject::ToolBarKeys)
-        EXPECT_FALSE(control.button(key)->isEnabled()) << key.toStdString();
-    control.SetPermission(all);
-    for (const QString& key : PermissionObject::ToolBarKeys)
-        EXPECT_FALSE(control.button(key)->isEnabled()) << key.toStdString() << " was enabled again";
-}
-
-TEST(HostedControl, SetPermissionAndSetParentFormAreCallableByName)
-{
-    // Through the meta-object, as a late-binding host calls them, with the same effect as
-    // the C++ calls.
-    ToolBarControl control;
-    TablePermission none(0);
     ASSERT_TRUE(QMetaObject::invokeMethod(&control, "SetPermission", Q_ARG(qd8::PermissionObject*, &none)));
     EXPECT_EQ(none.asked, PermissionObject::ToolBarKeys);
+    EXPECT_EQ(control.permission(), &none);
+    control.SetPermission(all);
     for (const QString& key : PermissionObject::ToolBarKeys)
         EXPECT_FALSE(control.button(key)->isEnabled()) << key.toStdString();
-    EXPECT_EQ(control.permission(), &none);
 
     QWidget form;
     int answer = -1;
@@ -110,33 +88,9 @@ TEST(HostedControl, TheControlKeepsThePermissionObjectWhileItLives)
     EXPECT_EQ(control.permission(), nullptr);
 }
 
-TEST(HostedControl, ASavedIconFolderDoesNotComeBackFromThePropertyBag)
-{
-    ToolBarControl saved;
-    saved.setConnectionString(QStringLiteral("Driver=SQLite;Data Source=/srv/QD8Data.dat"));
-    saved.setCommandGroup(QStringLiteral("GL"));
-    saved.setIconPath(QStringLiteral("C:\\QD8\\Icons\\"));
-    PropertyBag bag;
-    saved.writeProperties(bag);
-    EXPECT_EQ(bag.read(QStringLiteral("IconPath")), QStringLiteral("C:\\QD8\\Icons\\"));
-    EXPECT_FALSE(bag.contains(QStringLiteral("mIconPath")));
-
-    ToolBarControl reloaded;
-    reloaded.setIconPath(QStringLiteral("set before loading"));
-    reloaded.readProperties(bag);
-    EXPECT_EQ(reloaded.ConnectionString(), saved.ConnectionString());
-    EXPECT_EQ(reloaded.CommandGroup(), QStringLiteral("GL"));
-    EXPECT_EQ(reloaded.IconPath(), QString());
-}
-
 TEST(HostedControl, SetLastIsSetLast2WithoutConnectionStrings)
 {
-    struct Case {
-        const char* folder;
-        const char* userId;
-        const char* expectedFolder;
-        qint32 expectedUser;
-    };
+    struct Case { const char* folder; const char* userId; const char* expectedFolder; qint32 expectedUser; };
     const Case cases[] = {
         {"C:\\QD8\\User", "12", "C:\\QD8\\User\\", 12},
         {"C:\\QD8\\User\\", " 7 ", "C:\\QD8\\User\\", 7},

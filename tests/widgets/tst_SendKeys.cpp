@@ -33,10 +33,7 @@ protected:
 
 TEST_F(SendKeysTest, TypesTextModifiersNamedKeysAndRepeats)
 {
-    struct Case {
-        const char* keys;
-        const char* text;
-    };
+    struct Case { const char* keys; const char* text; };
     const Case cases[] = {
         {"abc", "abc"},
         {"+ab", "Ab"},
