@@ -66,7 +66,9 @@ void ReportSearchForm::Refresh()
             const auto named = [&rs, this](const char* stem) {
                 const QString thai = rs.text(QLatin1String(stem)), english = rs.text(QLatin1String(stem) + QStringLiteral("2"));
                 const QString& shown = inLanguage(LanguageID(), thai, english);
-                return CommandCatalogue::withoutAccelerators(shown.isEmpty() ? (thai.isEmpty() ? english : thai) : shown);
+                // Plain text here: a doubled "&" is one ampersand.
+                return CommandCatalogue::withoutAccelerators(shown.isEmpty() ? (thai.isEmpty() ? english : thai) : shown)
+                    .replace(QStringLiteral("&&"), QStringLiteral("&"));
             };
             const QString group = rs.text(QStringLiteral("TCmGAlias"));
             if (!module || module->data(0, Qt::UserRole).toString() != group) {

@@ -42,7 +42,8 @@ QString ReportWindow::title() const
         if (!rs.eof())
             return CommandCatalogue::withoutAccelerators(SessionServices::sessionFunctions().GetCommandCaption(LanguageID(),
                 AppConnectionString(), commandCentreConnectionString(AppConnectionString()), alias, 0, rs.text(QStringLiteral("TCmdName")),
-                rs.text(QStringLiteral("TCmdName2")), rs.text(QStringLiteral("TCmdReportNo"))));
+                rs.text(QStringLiteral("TCmdName2")), rs.text(QStringLiteral("TCmdReportNo"))))
+                .replace(QStringLiteral("&&"), QStringLiteral("&"));  // printed, not a label
     } catch (const DbError&) {
         // The alias stands for the title.
     }

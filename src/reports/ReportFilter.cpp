@@ -113,6 +113,7 @@ void ReportFilter::Private::buildLines()
                 box = combo;
             } else if (c.isDate()) {
                 auto* date = new DateEdit(form);
+                date->setMaximumWidth(date->fontMetrics().horizontalAdvance(QStringLiteral("00/00/00000")) + 24);
                 date->setLanguageId(rlid);
                 date->setToday(day());
                 // A date typed over a relative one is a fixed date from now on.
@@ -138,13 +139,17 @@ void ReportFilter::Private::buildLines()
                 relative->setFocusPolicy(Qt::NoFocus);  // F3 in the box does the same
                 QObject::connect(relative, &QToolButton::clicked, q, [this, i, b] { offerRelative(i, b); });
                 row->addWidget(relative);
-                row->addWidget(note);
+                row->addWidget(note, 1);
             }
             if (b == 1) {
                 line.to = new QLabel(form);
                 grid->addWidget(line.to, i, 2);
             }
-            grid->addLayout(row, i, b == 0 ? 1 : 3);
+            // A single box takes the whole line; a range's ends sit either side of "to".
+            if (c.boxes() == 1)
+                grid->addLayout(row, i, 1, 1, 3);
+            else
+                grid->addLayout(row, i, b == 0 ? 1 : 3);
         }
         line.caption->setBuddy(line.boxes.value(0));
         lines << line;
