@@ -26,7 +26,7 @@ ReportWindow::ReportWindow(QWidget* parent)
     layout->addWidget(m_missing);
     layout->addWidget(m_filter, 1);
     connect(m_filter, &ReportFilter::PreviewAction, this,
-        [this](const QString& statement, const QString&, const QString& criteria, const QString&) { preview(statement, criteria); });
+        [this](const QString&, const QString&, const QString& criteria, const QString&) { preview(criteria); });
     connect(m_filter, &ReportFilter::CloseAction, this, &ReportWindow::CloseAction);
     setFocusProxy(m_filter);
 }
@@ -52,6 +52,8 @@ QString ReportWindow::title() const
 
 void ReportWindow::Refresh()
 {
+    // The same report again (the language changed): what the user typed stays.
+    const bool same = m_layout && m_layout->commandAlias == session().ControlName;
     try {
         m_layout = ReportLayout::read(session().ControlName, AppConnectionString(), LanguageID());
     } catch (const DbError& error) {
@@ -66,11 +68,14 @@ void ReportWindow::Refresh()
         return;
     m_missing->clear();
     m_filter->setRLID(LanguageID());
-    m_filter->SetFirst(m_layout->reportGroup, QString(), m_layout->tableQuery, sharedDataObject(), sharedAppObject(), sharedClientObject());
+    if (!same)
+        m_filter->SetFirst(m_layout->reportGroup, QString(), m_layout->tableQuery, sharedDataObject(), sharedAppObject(), sharedClientObject());
 }
 
-void ReportWindow::preview(const QString& statement, const QString& criteria)
+void ReportWindow::preview(const QString& criteria)
 {
+    // The layout's query in the language read last ("{N}"), with the filter's condition.
+    const QString statement = m_filter->criteria().statement(m_layout->tableQuery).text();
     m_lastReport = m_layout->specFor(statement, title(), WorkbenchSession::companyNameOf(DataConnectionString()), criteria);
 }
 

@@ -31,7 +31,7 @@ Q_SIGNALS:
     void CloseAction();
 
 private:
-    void preview(const QString& statement, const QString& criteria);
+    void preview(const QString& criteria);
     QString title() const;
 
     ReportFilter* m_filter = nullptr;

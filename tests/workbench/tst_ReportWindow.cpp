@@ -95,6 +95,12 @@ TEST_P(ReportWindowTest, ReportsAreFoundByModuleInEitherLanguageAndOpenTheirCrit
     EXPECT_TRUE(spec.sql.endsWith("AND TGTSTACCCode='1112-01' ORDER BY TGTSTACCCode, TGLTDate, TGLTNo, TGTSLn")) << spec.sql.toStdString();
     EXPECT_EQ(spec.groupCaptionField, "AccountName");
     EXPECT_EQ(spec.columns.value(3).caption, "Description");
+    // A language switch rewords the criteria and the report and keeps what was typed.
+    window->setLanguage(0);
+    QTest::keyClick(report->filter()->editor(1), Qt::Key_F5);
+    EXPECT_TRUE(report->lastReport().criteria.endsWith("รหัสบัญชี: 1112-01")) << report->lastReport().criteria.toStdString();
+    EXPECT_TRUE(report->lastReport().sql.startsWith("SELECT TGTSTACCCode, TACCName AS AccountName"));
+    EXPECT_EQ(report->lastReport().columns.value(3).caption, "คำอธิบาย");
     QTest::keyClick(report->filter()->editor(1), Qt::Key_Escape);
     QTest::qWait(0);
     EXPECT_EQ(window->tabs()->count(), 1);
