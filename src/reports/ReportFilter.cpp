@@ -159,6 +159,7 @@ void ReportFilter::Private::buildLines()
     grid->setRowStretch(int(all.size()), 1);
     scroll->setWidget(form);
     retranslate();
+    showAll();
 }
 
 void ReportFilter::Private::retranslate()
@@ -199,8 +200,6 @@ void ReportFilter::Private::retranslate()
         favoriteBox->setItemText(0, text("(ไม่ใช้รายการโปรด)", "(no favourite)"));
     const ReportFavorite* f = current();
     defaultButton->setText(f && f->isDefault ? text("เลิกเป็นค่าเริ่มต้น", "Not default") : text("ตั้งเป็นค่าเริ่มต้น", "Make default"));
-    for (int i = 0; i < lines.size(); ++i)
-        show(i);
 }
 
 // The screen shows criterion `index` as the criteria hold it.
@@ -476,6 +475,7 @@ void ReportFilter::setRLID(int languageId)
     d->takeScreen();
     d->rlid = languageId;
     d->retranslate();
+    d->showAll();  // dates in the language's era
 }
 
 void ReportFilter::setToday(QDate today)
@@ -557,6 +557,7 @@ bool ReportFilter::loadFavorite(const QString& name)
         for (QWidget* box : line.boxes)
             box->setProperty(RelativeProperty, QString());
     d->fillFavorites();
+    d->showAll();
     return true;
 }
 

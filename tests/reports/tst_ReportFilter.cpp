@@ -205,7 +205,9 @@ TEST_P(ReportFilterTest, FavouritesAreKeptPerUserWithTheirRelativeDates)
     typeText(to, QStringLiteral("15/02/2569"));
     scriptedPicker().textAnswers << QStringLiteral("เดือนนี้");
     filter->saveFavorite();
+    typeText(filter->editor(5), QStringLiteral("9"));  // typed after saving: not lost by what the favourites do
     filter->toggleDefaultFavorite();
+    EXPECT_EQ(typed(*filter, 5), "9");
     EXPECT_EQ(filter->favoriteBox()->currentText(), "เดือนนี้ ★");
     QSignalSpy previewed(filter.get(), &ReportFilter::PreviewAction);
     ASSERT_TRUE(filter->Preview());
