@@ -483,8 +483,8 @@ void ReportDocument::open(const QString& connectionString)
         const int column = d->cursor.columnIndex(field);
         if (column < 0) {
             d->cursor.close();
-            throw DbError(DbError::Kind::Usage, QStringLiteral("The report's statement has no column %1").arg(field), d->spec.sql)
-                .explain(QStringLiteral("รายงานไม่มีคอลัมน์ %1").arg(field), QStringLiteral("The report has no column %1").arg(field));
+            const QString english = QStringLiteral("The report has no column %1").arg(field);
+            throw DbError(DbError::Kind::Usage, english, d->spec.sql).explain(QStringLiteral("รายงานไม่มีคอลัมน์ %1").arg(field), english);
         }
         d->cursorColumns << column;
     }

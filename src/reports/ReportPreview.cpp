@@ -176,8 +176,10 @@ void ReportPreview::Private::readingEnded()
     showProgress();
     if (document->state() == ReportDocument::State::Cancelled)
         status->setText(text("ยกเลิกแล้ว: รายงานไม่ครบ %1 รายการ", "Cancelled: the report stops after %1 rows").arg(document->rowCount()));
-    else if (document->state() == ReportDocument::State::Failed)
+    else if (document->state() == ReportDocument::State::Failed) {
         status->setText(document->errorText());
+        Services::messages().critical(q->windowTitle(), document->errorText());
+    }
     else
         status->setText(text("ทั้งหมด %1 รายการ", "%1 rows").arg(document->rowCount()));
 }

@@ -231,6 +231,13 @@ TEST_P(ReportDocumentTest, PreviewTurnsPagesAndSavesThroughTheServices)
 
     QTest::keyClick(preview, Qt::Key_Escape);
     QTRY_VERIFY(!alive);
+
+    ReportSpec wrong = spec(1);
+    wrong.columns[2].field = "TIvoRemark";
+    ReportPreview failed(wrong, db->connectionString());
+    ASSERT_EQ(scriptedMessages().shown.size(), 1);
+    EXPECT_EQ(scriptedMessages().shown[0].text, "The report has no column TIvoRemark");
+    EXPECT_FALSE(failed.findChild<QAction*>("actSavePdf")->isEnabled());
 }
 
 } // namespace
