@@ -8,6 +8,7 @@
 #include "foundation/Recordset.h"
 #include "navigation/CommandCatalogue.h"
 #include "reports/ReportFilter.h"
+#include "reports/ReportPreview.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
@@ -77,6 +78,9 @@ void ReportWindow::preview(const QString& criteria)
     // The layout's query in the language read last ("{N}"), with the filter's condition.
     const QString statement = m_filter->criteria().statement(m_layout->tableQuery).text();
     m_lastReport = m_layout->specFor(statement, title(), WorkbenchSession::companyNameOf(DataConnectionString()), criteria);
+    m_preview = new ReportPreview(m_lastReport, DataConnectionString(), this);
+    m_preview->setAttribute(Qt::WA_DeleteOnClose);
+    m_preview->show();
 }
 
 } // namespace qd8

@@ -10,6 +10,7 @@
 #include "foundation/Recordset.h"
 #include "navigation/DocumentToolBar.h"
 #include "reports/ReportFilter.h"
+#include "reports/ReportPreview.h"
 
 #include <QLineEdit>
 #include <QTabWidget>
@@ -95,6 +96,9 @@ TEST_P(ReportWindowTest, ReportsAreFoundByModuleInEitherLanguageAndOpenTheirCrit
     EXPECT_TRUE(spec.sql.endsWith("AND TGTSTACCCode='1112-01' ORDER BY TGTSTACCCode, TGLTDate, TGLTNo, TGTSLn")) << spec.sql.toStdString();
     EXPECT_EQ(spec.groupCaptionField, "AccountName");
     EXPECT_EQ(spec.columns.value(3).caption, "Description");
+    ASSERT_TRUE(report->preview());
+    EXPECT_EQ(report->preview()->windowTitle(), spec.title);
+    report->preview()->close();
     // A language switch rewords the criteria and the report and keeps what was typed.
     window->setLanguage(0);
     QTest::keyClick(report->filter()->editor(1), Qt::Key_F5);
