@@ -10,7 +10,7 @@ install(TARGETS QD8Designer2 qd8_browser EXPORT QD8Designer2Targets
 install(TARGETS qd8-admin qd8-workbench RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 
 # A host gets the controls and services; the library's own parts (*_p.h) stay behind.
-foreach(layer foundation database widgets pickers navigation editors documents accounting attachments browser)
+foreach(layer foundation database widgets pickers navigation editors documents accounting attachments reports browser)
   install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/${layer}
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/QD8Designer2
     FILES_MATCHING PATTERN "*.h" PATTERN "*_p.h" EXCLUDE)

@@ -401,7 +401,8 @@ CREATE TABLE QD8TFormDocList (
 
 -- Report filter lines: the criteria offered on a report's filter screen,
 -- grouped by report group, in TRpFSort order. TRpFCondition is the comparison
--- the criterion turns into ("=", "LIKE", "BETWEEN", ">=", "<=").
+-- the criterion turns into ("=", "LIKE", "BETWEEN", ">=", "<=", "IN").
+-- TRpFLabelList2 holds the English labels of TRpFLabelList's codes.
 CREATE TABLE QD8TReportFilter (
     TRpFID INTEGER NOT NULL,
     TRpFReportGroup VARCHAR(50) NOT NULL,
@@ -412,6 +413,7 @@ CREATE TABLE QD8TReportFilter (
     TRpFFieldType VARCHAR(20) DEFAULT 'TEXT',
     TRpFCondition VARCHAR(20) DEFAULT '=',
     TRpFLabelList VARCHAR(2000),
+    TRpFLabelList2 VARCHAR(2000),
     TRpFRunQuickForm VARCHAR(50),
     TRpFDefaultValue VARCHAR(200),
     TRpFCanBlank INTEGER DEFAULT 1,
@@ -424,7 +426,7 @@ CREATE INDEX QD8XReportFilterGroup ON QD8TReportFilter (TRpFReportGroup, TRpFSor
 CREATE VIEW QD8VReportFilter AS
 SELECT r.TRpFID, r.TRpFReportGroup, r.TRpFSort, r.TRpFFieldName,
        r.TRpFCaption, r.TRpFCaption2, r.TRpFFieldType, r.TRpFCondition,
-       r.TRpFLabelList, r.TRpFRunQuickForm, r.TRpFDefaultValue,
+       r.TRpFLabelList, r.TRpFLabelList2, r.TRpFRunQuickForm, r.TRpFDefaultValue,
        r.TRpFCanBlank, r.TRpFFlag1,
        q.TQFmCaption, q.TQFmCaption2, q.TQFmView, q.TQFmPKList, q.TQFmKeyIDEN
 FROM QD8TReportFilter r
@@ -468,4 +470,34 @@ CREATE TABLE QD8TDiagramArrow (
     TDgAToTCmdAlias VARCHAR(50) NOT NULL,
     TDgAFlag1 INTEGER DEFAULT 1,
     PRIMARY KEY (TDgATCmGAlias, TDgAFromTCmdAlias, TDgAToTCmdAlias)
+);
+
+-- Report layouts: what a report command prints. TRpLQuery is the SELECT on the
+-- company data; the criteria of TRpLReportGroup go where it says {FILTER} (after
+-- a WHERE of its own), else after it as a WHERE. "{N}" in the query, order,
+-- group fields and column fields is the language's name suffix.
+CREATE TABLE QD8TReportLayout (
+    TRpLTCmdAlias VARCHAR(50) NOT NULL,
+    TRpLReportGroup VARCHAR(50),
+    TRpLQuery VARCHAR(4000),
+    TRpLOrder VARCHAR(500),
+    TRpLGroupField VARCHAR(100),
+    TRpLGroupCaptionField VARCHAR(100),
+    TRpLLandscape INTEGER DEFAULT 0,
+    TRpLFlag1 INTEGER DEFAULT 1,
+    PRIMARY KEY (TRpLTCmdAlias)
+);
+
+-- The columns of a report layout in TRpCSort order. TRpCKind: TEXT, INTEGER,
+-- QUANTITY, MONEY or DATE; TRpCTotal 1 sums the column per group and in all.
+CREATE TABLE QD8TReportColumn (
+    TRpCTCmdAlias VARCHAR(50) NOT NULL,
+    TRpCSort INTEGER NOT NULL,
+    TRpCFieldName VARCHAR(100),
+    TRpCCaption VARCHAR(200) COLLATE THAI,
+    TRpCCaption2 VARCHAR(200) COLLATE THAI,
+    TRpCKind VARCHAR(20) DEFAULT 'TEXT',
+    TRpCTotal INTEGER DEFAULT 0,
+    TRpCWidth INTEGER DEFAULT 10,
+    PRIMARY KEY (TRpCTCmdAlias, TRpCSort)
 );

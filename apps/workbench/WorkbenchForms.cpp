@@ -2,6 +2,8 @@
 
 #include "DocumentForm.h"
 #include "MemoForms.h"
+#include "ReportSearchForm.h"
+#include "ReportWindow.h"
 #include "TableListForm.h"
 #include "VoucherForm.h"
 #include "documents/DucumentList.h"
@@ -166,13 +168,9 @@ void registerWorkbenchForms()
         return lists;
     });
     FormRegistry::registerForm(QStringLiteral("SOCUSTOM"), [](QWidget* parent) { return new CustomData(parent); });
-    // The report search of the tool bar: every report of the catalogue; Enter runs one.
-    registerList(QStringLiteral("WINDOW:REPORTSEARCH"),
-        {QStringLiteral("ค้นหารายงาน"), QStringLiteral("Report Search"), true,
-            QStringLiteral("TCmdAlias,TCmdReportno2,TCmdName{N},TCmGName{N}"), QStringLiteral("คำสั่ง,เลขที่รายงาน,ชื่อรายงาน,โมดูล"),
-            QStringLiteral("Command,Report No.,Report,Module"), QStringLiteral("QD8VCommand"),
-            QStringLiteral("TCmdType='R' AND TCmdActiveStatus=1 AND TCmdFlag1=1"), QStringLiteral("TCmGSort,TCmdSort"),
-            QStringLiteral("TCmdAlias,TCmdReportno2,TCmdName{N}"), true});
+    // The report search of the tool bar, and the window of every report command.
+    FormRegistry::registerForm(QStringLiteral("WINDOW:REPORTSEARCH"), [](QWidget* parent) { return new ReportSearchForm(parent); });
+    FormRegistry::registerForm(QStringLiteral("TYPE:R"), [](QWidget* parent) { return new ReportWindow(parent); });
     registerList(QStringLiteral("HREMPLOYEE"),
         {QStringLiteral("ข้อมูลพนักงาน"), QStringLiteral("Employees"), false,
             QStringLiteral("TEmpCode,TEmpFullName{N},TEmpTEmTCode,TEmpTBraCode,TEmpStartDate"),

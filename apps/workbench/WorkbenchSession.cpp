@@ -14,7 +14,7 @@
 
 namespace qd8 {
 
-QString WorkbenchSession::companyName() const
+QString WorkbenchSession::companyNameOf(const QString& dataConnectionString)
 {
     const ConnectionString cs = ConnectionString::parse(dataConnectionString);
     return cs.engine() == Engine::SQLite ? QFileInfo(cs.sqliteFile()).absoluteDir().dirName() : cs.value({"database", "dbname"});

@@ -29,7 +29,9 @@ struct WorkbenchSession {
     QString iconPath() const { return appPath + QStringLiteral("/Icons"); }
     // A short name of the company database for the status bar and the login's company box:
     // the folder of a SQLite company, the database name otherwise.
-    QString companyName() const;
+    QString companyName() const { return companyNameOf(dataConnectionString); }
+    // The company of a data connection string: its folder (SQLite) or database name.
+    static QString companyNameOf(const QString& dataConnectionString);
 
     // The sample company in a folder, created with qd8-admin when it is not there yet.
     // std::runtime_error when it cannot be created.

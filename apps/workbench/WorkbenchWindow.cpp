@@ -679,15 +679,17 @@ QStringList WorkbenchWindow::saveScreenshots(const QString& folder)
     QDir().mkpath(folder);
     QStringList files;
     files << savePicture(QDir(folder).filePath(QStringLiteral("main.png")));
-    // Every registered form, and every command that opens a quick form.
+    // Every registered form, every command that opens a quick form and every report with a layout.
     QStringList names = FormRegistry::names();
     try {
         Connection c;
         c.open(m_session.appConnectionString);
         Recordset rs;
-        rs.open(Sql("SELECT TCmdAlias FROM QD8TCommand WHERE TCmdFlag1=1 ORDER BY TCmdID"), c);
+        rs.open(Sql("SELECT c.TCmdAlias, l.TRpLTCmdAlias FROM QD8TCommand c LEFT JOIN QD8TReportLayout l ON l.TRpLTCmdAlias=c.TCmdAlias "
+                    "WHERE c.TCmdFlag1=1 ORDER BY c.TCmdID"),
+            c);
         for (; !rs.eof(); rs.moveNext())
-            if (isQuickForm(rs.text(QStringLiteral("TCmdAlias"))))
+            if (!rs.text(QStringLiteral("TRpLTCmdAlias")).isEmpty() || isQuickForm(rs.text(QStringLiteral("TCmdAlias"))))
                 names << rs.text(QStringLiteral("TCmdAlias"));
     } catch (const DbError& error) {
         showStatus(error);

@@ -61,6 +61,9 @@ public:
     // A colour of the colour dialog as the suite's colour number (red + green*256 +
     // blue*65536); -1 when the user cancelled.
     virtual int pickColor(int initial, const QString& title) = 0;
+    // The name of a file to write: `suggested` is offered, `filter` in the file dialog's
+    // form ("PDF (*.pdf)"); "" when the user cancelled.
+    virtual QString saveFileName(const QString& title, const QString& suggested, const QString& filter) = 0;
 };
 
 class ShellService {

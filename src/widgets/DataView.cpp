@@ -3,23 +3,29 @@
 #include "foundation/CommaList.h"
 #include "foundation/Connection.h"
 #include "foundation/ConnectionPool.h"
+#include "foundation/Cursor.h"
 #include "foundation/DbError.h"
+#include "foundation/Language.h"
+#include "foundation/Services.h"
 #include "widgets/DataViewModel_p.h"
 #include "widgets/TableParts_p.h"
 #include "widgets/Twips.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
 #include <QThreadPool>
+#include <QToolButton>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <array>
@@ -88,6 +94,13 @@ struct DataView::Private {
     QTableView* view;
     QProgressBar* progress;
     std::array<QPushButton*, Buttons.size()> buttons{};
+    QToolButton* exportButton;
+    QAction* exportXlsx;
+    QAction* exportCsv;
+    // The statement in force, read again whole by an export.
+    Sql select;
+    QString connectionString;
+    int languageId = 0;
     std::shared_ptr<CountReceiver> receiver = std::make_shared<CountReceiver>();
     struct PendingCount {
         Sql count;
@@ -106,6 +119,9 @@ struct DataView::Private {
     // The screen-reader names of the view and its parts, in the language of the dates.
     void nameParts(int languageId);
     void buildButtons(QHBoxLayout* strip);
+    void buildExport(QHBoxLayout* strip);
+    void nameExport();
+    QList<TableExport::Column> exportColumns(QList<QString>& fields) const;
     void applyColumns();
     void applyRowHeight();
     int firstShownColumn() const;
@@ -127,6 +143,9 @@ DataView::Private::Private(DataView* owner)
     , view(new QTableView(owner))
     , progress(new QProgressBar(owner))
     , countTimer(new QTimer(owner))
+    , exportButton(new QToolButton(owner))
+    , exportXlsx(new QAction(owner))
+    , exportCsv(new QAction(owner))
 {
     countTimer->setSingleShot(true);
     QObject::connect(countTimer, &QTimer::timeout, owner, [this] { startPendingCount(); });
@@ -157,6 +176,69 @@ void DataView::Private::nameParts(int languageId)
 {
     q->setAccessibleName(inLanguage(languageId, "ตารางข้อมูล", "Data view"));
     nameTableParts(view, progress, languageId, "รายการ", "Rows");
+    this->languageId = languageId;
+    nameExport();
+}
+
+void DataView::Private::buildExport(QHBoxLayout* strip)
+{
+    exportButton->setObjectName(QStringLiteral("btnExport"));
+    exportButton->setPopupMode(QToolButton::InstantPopup);
+    auto* menu = new QMenu(exportButton);
+    menu->addAction(exportXlsx);
+    menu->addAction(exportCsv);
+    exportButton->setMenu(menu);
+    exportXlsx->setObjectName(QStringLiteral("actExportXlsx"));
+    exportCsv->setObjectName(QStringLiteral("actExportCsv"));
+    exportXlsx->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E));
+    exportXlsx->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    q->addAction(exportXlsx);
+    view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    view->addAction(exportXlsx);
+    view->addAction(exportCsv);
+    QObject::connect(exportXlsx, &QAction::triggered, q, [this] { q->exportAs(TableExport::Format::Xlsx); });
+    QObject::connect(exportCsv, &QAction::triggered, q, [this] { q->exportAs(TableExport::Format::Csv); });
+    strip->addWidget(exportButton);
+}
+
+void DataView::Private::nameExport()
+{
+    exportButton->setText(inLanguage(languageId, "ส่งออก", "Export"));
+    exportButton->setAccessibleName(exportButton->text());
+    exportXlsx->setText(inLanguage(languageId, "ส่งออกเป็น Excel (XLSX)", "Export to Excel (XLSX)"));
+    exportCsv->setText(inLanguage(languageId, "ส่งออกเป็น CSV", "Export to CSV"));
+    exportButton->setToolTip(exportXlsx->text() + QStringLiteral(" (") + exportXlsx->shortcut().toString(QKeySequence::NativeText) + QLatin1Char(')'));
+}
+
+QList<TableExport::Column> DataView::Private::exportColumns(QList<QString>& fields) const
+{
+    QList<TableExport::Column> columns;
+    const QList<DataViewModel::Column>& shown = model->columns();
+    for (int c = 0; c < shown.size(); ++c) {
+        if (view->isColumnHidden(c))
+            continue;
+        TableExport::Type type = TableExport::Type::Text;
+        switch (shown[c].type) {
+        case DataViewModel::Type::Integer:
+            type = TableExport::Type::Integer;
+            break;
+        case DataViewModel::Type::Number:
+            type = TableExport::Type::Number;
+            break;
+        case DataViewModel::Type::Date:
+            type = TableExport::Type::Date;
+            break;
+        case DataViewModel::Type::YesNo:
+            type = TableExport::Type::YesNo;
+            break;
+        case DataViewModel::Type::Text:
+            break;
+        }
+        // Twips to characters: a character of the list's font is about 120 twips wide.
+        columns.append({shown[c].caption, type, qMax(shown[c].widthTwips / 120, 4)});
+        fields << shown[c].field;
+    }
+    return columns;
 }
 
 void DataView::Private::buildButtons(QHBoxLayout* strip)
@@ -173,6 +255,7 @@ void DataView::Private::buildButtons(QHBoxLayout* strip)
         strip->addWidget(button);
         buttons[i] = button;
     }
+    buildExport(strip);
     strip->addStretch(1);
 }
 
@@ -395,6 +478,8 @@ void DataView::open(const Sql& select, const Sql& count, const QString& connecti
     ++d->generation;
     d->total = -1;
     d->pendingCount.reset();
+    d->select = select;
+    d->connectionString = connectionString;
     d->model->open(select, connectionString);
     if (!count.text().trimmed().isEmpty())
         d->queueCount(count, connectionString);
@@ -407,6 +492,8 @@ void DataView::clear()
     ++d->generation;
     d->total = -1;
     d->pendingCount.reset();
+    d->select = Sql();
+    d->connectionString.clear();
     d->model->clear();
 }
 
@@ -494,6 +581,67 @@ void DataView::setDateLook(const DateLook& look)
 {
     d->model->setDateLook(look);
     d->nameParts(look.languageId);
+}
+
+bool DataView::exportRows(const QString& fileName)
+{
+    const int languageId = d->languageId;
+    const QString title = inLanguage(languageId, "ส่งออกรายการ", "Export the list");
+    if (d->connectionString.isEmpty())
+        return false;
+    QList<QString> fields;
+    TableExport out(fileName, d->exportColumns(fields), languageId);
+    try {
+        // The statement again, whole: the rows read for the screen may be only the first ones.
+        Cursor cursor;
+        cursor.open(d->select, d->connectionString, ReadAllBatchRows);
+        QList<int> columns;
+        for (const QString& field : fields)
+            columns << cursor.columnIndex(field);
+        ProgressScope progress(title, QDir::toNativeSeparators(fileName), qMax<qint64>(d->total, 0));
+        qsizetype written = 0;
+        for (bool more = true; more; more = !cursor.atEnd() && cursor.fetch(ReadAllBatchRows) > 0) {
+            for (; written < cursor.rowCount(); ++written) {
+                QVariantList values;
+                values.reserve(columns.size());
+                for (int column : columns)
+                    values << (column < 0 ? QVariant() : cursor.value(written, column));
+                if (!out.addRow(values))
+                    break;
+            }
+            if (!out.errorText().isEmpty())
+                break;
+            if (!progress.step(written)) {
+                out.discard();
+                return false;
+            }
+        }
+    } catch (const DbError& e) {
+        out.discard();
+        Services::messages().critical(title, e.report(languageId));
+        return false;
+    }
+    if (out.finish())
+        return true;
+    Services::messages().critical(title, out.errorText());
+    return false;
+}
+
+bool DataView::exportAs(TableExport::Format format)
+{
+    const bool csv = format == TableExport::Format::Csv;
+    const QString suffix = csv ? QStringLiteral(".csv") : QStringLiteral(".xlsx");
+    const QString title = csv ? d->exportCsv->text() : d->exportXlsx->text();
+    QString name = window()->windowTitle().trimmed();
+    if (name.isEmpty())
+        name = accessibleName();
+    QString file = Services::picker().saveFileName(title, QDir::home().filePath(name + suffix),
+        csv ? QStringLiteral("CSV (*.csv)") : QStringLiteral("Excel (*.xlsx)"));
+    if (file.isEmpty())
+        return false;
+    if (!file.endsWith(suffix, Qt::CaseInsensitive))
+        file += suffix;
+    return exportRows(file);
 }
 
 void DataView::setButtonVisible(Button button, bool visible)

@@ -2,6 +2,7 @@
 
 #include "foundation/DateText.h"
 #include "foundation/Sql.h"
+#include "foundation/TableExport.h"
 
 #include <QColor>
 #include <QString>
@@ -16,6 +17,7 @@ class QTableView;
 namespace qd8 {
 
 class DataViewModel;
+
 
 // The row a colour callback looks at: a value of the row by field name (found without
 // regard to case; an invalid QVariant when the SELECT has no such column).
@@ -76,6 +78,15 @@ public:
     void setRowColour(std::function<QColor(const DataRow&)> colour);
     // Dates in the user's era (DbSessionFunctions::userDateLook); Gregorian until set.
     void setDateLook(const DateLook& look);
+
+    // Writes every row of the statement in force (its filter included, not only the rows read
+    // so far) to a workbook or, for a ".csv" name, a CSV file: the shown columns under their
+    // captions, numbers and dates typed. Progress shows and Cancel leaves no file; false when
+    // cancelled or failed (the reason told through the message service).
+    bool exportRows(const QString& fileName);
+    // Asks for the file name through the picker service, then exportRows(). The Export
+    // button, the context menu and Ctrl+Shift+E (workbook) offer it.
+    bool exportAs(TableExport::Format format);
 
     void setButtonVisible(Button button, bool visible);
     void setButtonCaption(Button button, const QString& caption);

@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QDesktopServices>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QInputDialog>
 #include <QHash>
@@ -160,6 +161,11 @@ int DialogPickerService::pickColor(int initial, const QString& title)
     const QColor start = initial < 0 ? QColor(Qt::white) : QColor(initial & 0xff, (initial >> 8) & 0xff, (initial >> 16) & 0xff);
     const QColor picked = QColorDialog::getColor(start, activeWindow(), title);
     return picked.isValid() ? picked.red() + picked.green() * 256 + picked.blue() * 65536 : -1;
+}
+
+QString DialogPickerService::saveFileName(const QString& title, const QString& suggested, const QString& filter)
+{
+    return QFileDialog::getSaveFileName(activeWindow(), title, suggested, filter);
 }
 
 // The suite names Windows programs; this desktop runs its own equivalents, and a folder

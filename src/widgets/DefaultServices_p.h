@@ -34,6 +34,7 @@ public:
     QDate pickMonth(QDate initial, int style, QPoint position, const DateLook& look) override;
     std::optional<QString> inputMultiLine(const QString& title, const QString& text, int languageId) override;
     int pickColor(int initial, const QString& title) override;
+    QString saveFileName(const QString& title, const QString& suggested, const QString& filter) override;
 };
 
 class QtShellService : public ShellService {

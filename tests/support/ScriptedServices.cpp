@@ -75,6 +75,12 @@ int ScriptedPicker::pickColor(int, const QString&)
     return colorAnswers.isEmpty() ? -1 : colorAnswers.takeFirst();
 }
 
+QString ScriptedPicker::saveFileName(const QString& title, const QString&, const QString&)
+{
+    fileTitles << title;
+    return fileAnswers.isEmpty() ? QString() : fileAnswers.takeFirst();
+}
+
 bool ScriptedShell::run(const QString& commandLine, int windowStyle)
 {
     commands << QStringLiteral("run:%1:%2").arg(commandLine).arg(windowStyle);

@@ -46,6 +46,8 @@ public:
     std::optional<QString> inputMultiLine(const QString& title, const QString& text, int languageId) override;
     // Answers from `colorAnswers`; cancelled (invalid) once it is empty.
     int pickColor(int initial, const QString& title) override;
+    // Answers from `fileAnswers` ("" cancelled once it is empty); the titles asked go to `fileTitles`.
+    QString saveFileName(const QString& title, const QString& suggested, const QString& filter) override;
 
     // One date pick as asked: "date", "datetime" or "month", what it opened with, where.
     struct DateAsk {
@@ -64,8 +66,11 @@ public:
     QList<DateAsk> dateAsks;
     QList<std::optional<QString>> textAnswers;
     QList<int> colorAnswers;
+    QStringList fileAnswers;
+    QStringList fileTitles;
     void reset()
     {
+        fileAnswers.clear(); fileTitles.clear();
         answers.clear(); requests.clear(); choices.clear(); choiceTitles.clear();
         dateAnswers.clear(); dateAsks.clear(); textAnswers.clear(); colorAnswers.clear();
     }

@@ -148,29 +148,6 @@ TEST_P(WorkbenchTest, DeniedCommandsNeverAppearAndUnknownOnesAreReported)
     EXPECT_EQ(window->tabs()->count(), 0);
 }
 
-TEST_P(WorkbenchTest, ReportSearchListsReportsAndLaunchesTheChosenOne)
-{
-    auto window = open("JOHN", "GL");
-    window->toolBar()->utilityButton(4)->click();
-    ASSERT_EQ(window->tabs()->count(), 1);
-    EXPECT_EQ(window->tabs()->tabText(0), "Report Search");
-    auto* form = qobject_cast<TableListForm*>(window->tabs()->widget(0));
-    ASSERT_TRUE(form);
-    ASSERT_GT(form->table()->rowCount(), 5);
-    EXPECT_EQ(form->table()->item(0, 0)->text(), "GLTB");
-    form->searchBox()->setText("Aging");
-    QTest::keyClick(form->searchBox(), Qt::Key_Return);
-    EXPECT_EQ(form->table()->item(0, 0)->text(), "ARAGING");
-    form->searchBox()->setText("it's");
-    QTest::keyClick(form->searchBox(), Qt::Key_Return);
-    EXPECT_EQ(form->table()->rowCount(), 0);  // a quote finds nothing and breaks nothing
-    EXPECT_TRUE(scriptedMessages().shown.isEmpty());
-    form->searchBox()->clear();
-    form->table()->selectRow(0);
-    QTest::keyClick(form->table(), Qt::Key_Return);
-    EXPECT_TRUE(window->statusMessage().contains("GLTB"));
-}
-
 TEST_P(WorkbenchTest, DeleteActionAsksThenDeletesThroughTheCommandsDeleter)
 {
     QPointer<DeletingForm> form;
