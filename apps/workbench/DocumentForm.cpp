@@ -12,6 +12,7 @@
 #include "database/ListService.h"
 #include "database/SessionFunctions.h"
 #include "database/SessionServices.h"
+#include "foundation/Backend.h"
 #include "foundation/Connection.h"
 #include "foundation/DbError.h"
 #include "foundation/Recordset.h"
@@ -939,9 +940,18 @@ QString DocumentForm::writeNew(Connection& data, const QString& typedKey)
 
 QString DocumentForm::conflictWith(const Recordset& rs) const
 {
+    // A moment compares by its value: older rows hold a bare date in a TIMESTAMP column,
+    // which reads back as midnight however it was written.
+    const auto comparable = [](const QVariant& value) {
+        if (value.typeId() == QMetaType::QDate)
+            return value.toDate().startOfDay().toString(Qt::ISODate);
+        if (value.typeId() == QMetaType::QDateTime)
+            return value.toDateTime().toString(Qt::ISODate);
+        return qd8::text(value);
+    };
     for (int column = 0; column < rs.fieldCount(); ++column) {
         const auto read = m_row.constFind(rs.fieldName(column).toLower());
-        if (read == m_row.constEnd() || qd8::text(*read) != qd8::text(rs.field(column)))
+        if (read == m_row.constEnd() || comparable(*read) != comparable(rs.field(column)))
             return rs.fieldName(column);
     }
     return {};
@@ -951,26 +961,36 @@ void DocumentForm::writeChanges(Connection& data)
 {
     const QString key = qd8::text(m_row.value(m_definition.keyField.toLower()));
     const QString caption = shownCaption(m_entries.first().field);
-    Recordset rs;
-    rs.open(Sql("SELECT * FROM ") + m_definition.table + " WHERE " + m_definition.keyField + "=" + quoted(key), data, Recordset::adOpenKeyset,
-        Recordset::adLockOptimistic);
-    if (rs.eof())
+    const Sql byKey = Sql(" WHERE ") + m_definition.keyField + "=" + quoted(key);
+    // The row's write lock first, so no other save slips in between the check and the write.
+    if (data.execute(Sql("UPDATE ") + m_definition.table + " SET " + m_definition.keyField + "=" + m_definition.keyField + byKey) == 0)
         throw DbError(DbError::Kind::Conflict, bilingual("ผู้ใช้อื่นลบ %1 %2 ไปแล้ว", "Another user deleted %1 %2").arg(caption, key));
+    Recordset rs;
+    rs.open(Sql("SELECT * FROM ") + m_definition.table + byKey, data);
     if (!conflictWith(rs).isEmpty())
         throw DbError(DbError::Kind::Conflict,
             bilingual("ผู้ใช้อื่นแก้ไข %1 %2 ไปแล้วหลังจากที่ท่านเปิด", "Another user changed %1 %2 after you opened it").arg(caption, key));
-    bool changed = false;
+    // Found by its key alone: the check above has compared every column.
+    const Backend& backend = data.backend();
+    QStringList sets;
+    QVariantList values;
+    const auto set = [&](const QString& field, const QVariant& value) {
+        values << value;
+        sets << field + QLatin1Char('=') + backend.placeholder(int(values.size()));
+    };
     for (const Entry& entry : m_entries) {
         const bool typed = !entry.box || !entry.box->isReadOnly() || !entry.field.sumOf.isEmpty();
-        if (!entry.box || !typed || entry.box->text() == entry.clean)
-            continue;
-        rs.setField(entry.field.field, storedValue(entry));
-        changed = true;
+        if (entry.box && typed && entry.box->text() != entry.clean)
+            set(entry.field.field, storedValue(entry));
     }
-    if (!changed)
+    if (sets.isEmpty())
         return;
-    setAudit(rs, "EditBy", "EditDate");
-    rs.update();
+    const QString& stem = m_definition.auditPrefix;
+    if (!stem.isEmpty() && rs.fieldIndex(stem + QStringLiteral("EditBy")) >= 0)
+        set(stem + QStringLiteral("EditBy"), UserLoginName());
+    if (!stem.isEmpty() && rs.fieldIndex(stem + QStringLiteral("EditDate")) >= 0)
+        set(stem + QStringLiteral("EditDate"), QDateTime::currentDateTime());
+    data.execute(Sql("UPDATE ") + m_definition.table + " SET " + sets.join(QStringLiteral(", ")) + byKey, values);
 }
 
 QString DocumentForm::changedFields() const
