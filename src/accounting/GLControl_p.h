@@ -95,6 +95,15 @@ public:
     Currency x[20];
     bool inputReady = false;
     QString formatGroup;
+    // The posting format as last read, with each line's account resolved: amounts typed
+    // into a document refill the lines from it without reading the format again. Read
+    // again when the format group or the database changes, or the clerk fills from it.
+    struct FormatLine {
+        QString ln, formula, side, account, description, description2;
+    };
+    QString formatReadFor;  // format group and connection string; "" until read
+    QString formatBook;     // "" when the group is not there
+    QList<FormatLine> formatLines;
     QString inputSource;
     QString runMode;
     bool fullAuto = false;

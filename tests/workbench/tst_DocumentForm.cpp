@@ -15,6 +15,7 @@
 #include "foundation/Connection.h"
 #include "foundation/DateText.h"
 #include "foundation/Recordset.h"
+#include "foundation/SqlTrace.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -289,7 +290,9 @@ TEST_P(DocumentFormTest, AnInvoicePostsItsVoucherInItsOwnTransactionOrNotAtAll)
     ASSERT_TRUE(form);
     const QString key = box(form, c.keyField)->text();
     retype(box(form, "TIvoTARNCode"), "QC901");
+    SqlTrace::Recorder trace;
     retype(box(form, "TIvoNetAmount"), "1000");
+    EXPECT_LE(trace.composed().filter("FROM QD8TGLFormat ").size(), 1);  // each keystroke refills from the format read once
     EXPECT_EQ(box(form, "TIvoVATAmount")->text(), "70.00");
     EXPECT_EQ(box(form, "TIvoAmount")->text(), "1,070.00");
     auto* voucher = form->findChild<GLControl*>("voucher");
