@@ -300,6 +300,7 @@ QString GLControl::UpdateGL8(const QDate& iGLDocDate, const QString& iRefNo, con
     const QString& /*ZParam*/, const QString& BranchCode, const QString& iGLDocNo, const QString& iRUNMODE, const QString& iPayTo,
     int iRevision, int iIsAdjust, bool& iUpdateDetailOnly)
 {
+    d->beforeHostCommit.reset();
     if (GLMethod() == 0)
         return {};
     if (!iGLDocNo.isEmpty())
@@ -454,6 +455,9 @@ QString GLControl::UpdateGL8(const QDate& iGLDocDate, const QString& iRefNo, con
             throw;
         }
     }
+    if (d->saveConnection)
+        d->beforeHostCommit = Private::Saved{drawNumber ? QString() : GLDocNo(), d->oldNumber, d->stampKnown, d->loadedFlag3,
+            d->loadedHeader, d->loadedRevision};
     d->oldNumber = GLDocNo();
     d->loadedFlag3 = stamp;
     d->loadedRevision = iRevision;
@@ -466,6 +470,20 @@ QString GLControl::UpdateGL8(const QDate& iGLDocDate, const QString& iRefNo, con
     if (d->refreshAfterSave && !d->saveConnection)
         FillData(d->oldNumber);
     return d->oldNumber;
+}
+
+void GLControl::saveRolledBack()
+{
+    if (!d->beforeHostCommit)
+        return;
+    const Private::Saved& was = *d->beforeHostCommit;
+    setGLDocNo(was.docNo);
+    d->oldNumber = was.oldNumber;
+    d->stampKnown = was.stampKnown;
+    d->loadedFlag3 = was.loadedFlag3;
+    d->loadedHeader = was.loadedHeader;
+    d->loadedRevision = was.loadedRevision;
+    d->beforeHostCommit.reset();
 }
 
 } // namespace qd8

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "accounting/GLControl.h"
 
 #include <QDateTime>
@@ -123,6 +125,16 @@ public:
     QDateTime loadedFlag3;
     QVariantHash loadedHeader;  // the header fields the panel does not show, as loaded
     int loadedRevision = 0;
+    // What a save on the host's connection replaced, until the host commits: its rollback
+    // brings it back (saveRolledBack).
+    struct Saved {
+        QString docNo, oldNumber;
+        bool stampKnown = false;
+        QDateTime loadedFlag3;
+        QVariantHash loadedHeader;
+        int loadedRevision = 0;
+    };
+    std::optional<Saved> beforeHostCommit;
     Connection* saveConnection = nullptr;
 
     // Totals: per-row amounts parsed once, again only for rows changed since.

@@ -576,6 +576,21 @@ TEST_P(DocumentFormTest, TheVoucherFormBalancesSavesAndReopensAVoucher)
     EXPECT_EQ(again->panel()->GETGLList().size(), 2);
     EXPECT_EQ(again->panel()->GETSumCredit(), *Currency::parse(u"1500.25"));
     EXPECT_EQ(again->dateBox()->date(), QDate::currentDate());
+
+    // Its history is written with it, or not at all.
+    const auto events = [&] {
+        QStringList shown;
+        for (const HistoryEvent& e : DocumentHistory::read(dataConnectionString(), "QD8TGLTrans", number))
+            shown << e.action + " " + e.changes;
+        return shown;
+    };
+    retype(again->findChild<QLineEdit*>("reference"), "REF-1");
+    runOnData({"ALTER TABLE QD8TDocHistory RENAME TO QD8TDocHistoryAway"});
+    EXPECT_FALSE(again->save());
+    runOnData({"ALTER TABLE QD8TDocHistoryAway RENAME TO QD8TDocHistory"});
+    EXPECT_EQ(read(Sql("SELECT TGLTRefNo FROM QD8TGLTrans WHERE TGLTNo=") + quoted(number), "TGLTRefNo"), "");
+    ASSERT_TRUE(again->save());
+    EXPECT_EQ(events(), QStringList({"Create ", "Edit TGLTRefNo:  -> REF-1"}));
 }
 
 TEST_P(DocumentFormTest, TheGoodsIssueTakesAJobStepRefusesToSaveWithoutItAndKeepsItsHistory)
