@@ -1028,6 +1028,7 @@ bool DocumentForm::save()
         return false;
     QString key = keyBox()->text().trimmed();
     const QString changes = editing() ? changedFields() : QString();
+    const OperationName operation(caption());  // who waits, should another writer hold the rows
     try {
         Connection data;
         data.open(DataConnectionString());

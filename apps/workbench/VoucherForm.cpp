@@ -157,6 +157,7 @@ bool VoucherForm::save()
     const QVariantMap now = shown();
     bool detailOnly = false;
     QString number;
+    const OperationName operation(title + QStringLiteral(" - ") + (adding ? m_newNumber : m_number));
     try {
         // The voucher and its history event are kept or lost together.
         Connection data;
