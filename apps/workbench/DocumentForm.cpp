@@ -276,14 +276,6 @@ QPushButton* DocumentForm::addCommand(const QString& key, const char* thai, cons
     return button;
 }
 
-QPushButton* DocumentForm::command(const QString& key) const
-{
-    for (const Command& c : m_commands)
-        if (c.key == key)
-            return c.button;
-    return nullptr;
-}
-
 void DocumentForm::buildEntries(QVBoxLayout* layout)
 {
     auto* grid = new QGridLayout;

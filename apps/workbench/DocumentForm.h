@@ -197,9 +197,6 @@ public:
     void print();
     // What print() prints, as HTML.
     QString printout() const;
-    // The tool-bar button of a command by its editor key ("Add", "Edit", "Update",
-    // "Delete", "Print", "Cancel").
-    QPushButton* command(const QString& key) const;
 
     // Why `key` cannot be deleted ("" when it can): a workflow status, or a row that refers
     // to it. DbError.
