@@ -2,15 +2,18 @@
 
 #include "DocumentAttachments.h"
 #include "DocumentPanels.h"
+#include "ListPrinter.h"
 #include "accounting/CreditLimit.h"
 #include "accounting/GLControl.h"
 #include "accounting/PointControl.h"
 #include "attachments/ClientCapture.h"
 #include "attachments/HardCopyScan.h"
 #include "database/ClientObject.h"
+#include "documents/DocumentHistory.h"
 #include "database/ListService.h"
 #include "database/SessionFunctions.h"
 #include "database/SessionServices.h"
+#include "foundation/Backend.h"
 #include "foundation/Connection.h"
 #include "foundation/DbError.h"
 #include "foundation/Recordset.h"
@@ -205,27 +208,26 @@ DocumentForm::DocumentForm(const DocumentDefinition& definition, QWidget* parent
     , m_title(new QLabel(this))
     , m_modeLabel(new QLabel(this))
     , m_status(new QLabel(this))
-    , m_save(new QPushButton(this))
-    , m_close(new QPushButton(this))
+    , m_toolBar(new QHBoxLayout)
 {
     m_title->setObjectName(QStringLiteral("title"));
     m_title->setStyleSheet(QStringLiteral("font-weight: bold; font-size: 12pt"));
     m_modeLabel->setObjectName(QStringLiteral("mode"));
     m_modeLabel->setStyleSheet(QStringLiteral("font-style: italic; color: palette(dark); padding: 2px 8px"));  // a word, not a button
     m_status->setObjectName(QStringLiteral("status"));
+    m_toolBar->addWidget(m_status, 1);
+    addCommand(QStringLiteral("Add"), "เพิ่ม", "Add", [this] { addNew(); });
+    addCommand(QStringLiteral("Edit"), "แก้ไข", "Edit", [this] { editShown(); });
+    m_save = addCommand(QStringLiteral("Update"), "บันทึก", "Save", [this] { save(); });
+    addCommand(QStringLiteral("Delete"), "ลบ", "Delete", [this] { deleteShown(); });
+    addCommand(QStringLiteral("Print"), "พิมพ์", "Print", [this] { print(); });
+    m_close = addCommand(QStringLiteral("Cancel"), "ปิด", "Close", [this] { requestClose(); });
     m_save->setObjectName(QStringLiteral("save"));
     m_close->setObjectName(QStringLiteral("close"));
-    // Enter on a focused button presses it, as on the fields it moves on.
-    m_save->setAutoDefault(true);
-    m_close->setAutoDefault(true);
 
     auto* header = new QHBoxLayout;
     header->addWidget(m_title, 1);
     header->addWidget(m_modeLabel);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(m_status, 1);
-    buttons->addWidget(m_save);
-    buttons->addWidget(m_close);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(header);
     if (!m_definition.sales.isEmpty()) {
@@ -244,8 +246,8 @@ DocumentForm::DocumentForm(const DocumentDefinition& definition, QWidget* parent
         layout->addWidget(m_sales->points());
     if (!m_definition.isMaster()) {
         m_attachments = new DocumentAttachments(*this, m_definition.table, new HardCopyScan(this));
-        buttons->insertWidget(0, m_attachments->strip());
-        buttons->insertWidget(1, m_attachments->capture());
+        m_toolBar->insertWidget(0, m_attachments->strip());
+        m_toolBar->insertWidget(1, m_attachments->capture());
     }
     if (!m_definition.posting.isEmpty()) {
         m_voucher = std::make_unique<DocumentVoucher>(m_definition.posting, new GLControl(this));
@@ -258,14 +260,23 @@ DocumentForm::DocumentForm(const DocumentDefinition& definition, QWidget* parent
         layout->addWidget(m_panels, 1);
         connect(m_panels, &DocumentPanels::changed, this, [this] { FillData(); });
     }
-    layout->addLayout(buttons);
-
-    connect(m_save, &QPushButton::clicked, this, [this] { save(); });
-    connect(m_close, &QPushButton::clicked, this, &DocumentForm::requestClose);
+    layout->addLayout(m_toolBar);
     Setbuttons();
 }
 
 DocumentForm::~DocumentForm() = default;
+
+QPushButton* DocumentForm::addCommand(const QString& key, const char* thai, const char* english, std::function<void()> run)
+{
+    auto* button = new QPushButton(this);
+    button->setObjectName(key.toLower());
+    button->setAutoDefault(true);  // Enter on a focused button presses it, as on the fields it moves on
+    registerToolButton(key, button);
+    connect(button, &QPushButton::clicked, this, [run] { run(); });
+    m_toolBar->addWidget(button);
+    m_commands.append({key, thai, english, button, std::move(run)});
+    return button;
+}
 
 void DocumentForm::buildEntries(QVBoxLayout* layout)
 {
@@ -352,12 +363,12 @@ void DocumentForm::retranslate()
     m_modeLabel->setText(mode);
     m_modeLabel->setAccessibleName(bilingual("โหมด", "Mode"));
     m_status->setAccessibleName(bilingual("สถานะ", "Status"));
-    m_save->setText(bilingual("บันทึก (Ctrl+S)", "Save (Ctrl+S)"));
-    m_save->setAccessibleName(bilingual("บันทึก", "Save"));
-    m_save->setToolTip(withShortcut(m_save->accessibleName(), editorShortcut(QStringLiteral("Update"))));
-    m_close->setText(bilingual("ปิด (Esc)", "Close (Esc)"));
-    m_close->setAccessibleName(bilingual("ปิด", "Close"));
-    m_close->setToolTip(withShortcut(m_close->accessibleName(), QKeySequence(Qt::Key_Escape)));
+    for (const Command& c : m_commands) {
+        const QString caption = bilingual(c.thai, c.english);
+        c.button->setText(withShortcut(caption, editorShortcut(c.key)));
+        c.button->setAccessibleName(caption);
+        c.button->setToolTip(c.button->text());
+    }
     m_dateLook = DbSessionFunctions::userDateLook(UserID(), LanguageID(), DataConnectionString());
     for (Entry& entry : m_entries) {
         if (auto* date = qobject_cast<DateEdit*>(entry.box))
@@ -416,8 +427,15 @@ void DocumentForm::Setbuttons()
     }
     if (m_panels)
         m_panels->setWritable(writable);
-    m_save->setVisible(writable);
-    m_close->setVisible(true);
+    // Disabled, never hidden: the buttons keep their places in every mode.
+    const bool shown = m_loaded && !writable;
+    const QHash<QString, bool> allowed{{QStringLiteral("Add"), !DataConnectionString().isEmpty()}, {QStringLiteral("Edit"), shown},
+        {QStringLiteral("Update"), writable}, {QStringLiteral("Delete"), m_loaded && !adding()}, {QStringLiteral("Print"), m_loaded && !adding()},
+        {QStringLiteral("Cancel"), true}};
+    for (const Command& c : m_commands) {
+        const bool granted = !permission() || !PermissionObject::ToolBarKeys.contains(c.key) || permission()->right(c.key) != 0;
+        c.button->setEnabled(allowed.value(c.key, true) && granted);
+    }
     if (m_attachments)
         m_attachments->setDocument(adding() ? QString() : m_key, writable);
     focusFirst();
@@ -698,20 +716,19 @@ void DocumentForm::focusAfter(QObject* from)
             return;
         }
     }
-    (m_save->isVisible() ? m_save : m_close)->setFocus();
+    (m_save->isEnabled() ? m_save : m_close)->setFocus();
 }
 
 bool DocumentForm::handleKey(QKeyEvent* event, QObject* from)
 {
     const int key = event->key();
-    if (QKeySequence(event->keyCombination()) == editorShortcut(QStringLiteral("Update"))) {
-        save();
-        return true;
-    }
-    if (key == Qt::Key_Escape) {
-        requestClose();
-        return true;
-    }
+    const QKeySequence pressed(event->keyCombination());
+    for (const Command& c : m_commands)
+        if (pressed == editorShortcut(c.key)) {
+            if (c.button->isEnabled())
+                c.run();
+            return true;
+        }
     for (Entry& entry : m_entries) {
         if (entry.box != from)
             continue;
@@ -917,9 +934,18 @@ QString DocumentForm::writeNew(Connection& data, const QString& typedKey)
 
 QString DocumentForm::conflictWith(const Recordset& rs) const
 {
+    // A moment compares by its value: older rows hold a bare date in a TIMESTAMP column,
+    // which reads back as midnight however it was written.
+    const auto comparable = [](const QVariant& value) {
+        if (value.typeId() == QMetaType::QDate)
+            return value.toDate().startOfDay().toString(Qt::ISODate);
+        if (value.typeId() == QMetaType::QDateTime)
+            return value.toDateTime().toString(Qt::ISODate);
+        return qd8::text(value);
+    };
     for (int column = 0; column < rs.fieldCount(); ++column) {
         const auto read = m_row.constFind(rs.fieldName(column).toLower());
-        if (read == m_row.constEnd() || qd8::text(*read) != qd8::text(rs.field(column)))
+        if (read == m_row.constEnd() || comparable(*read) != comparable(rs.field(column)))
             return rs.fieldName(column);
     }
     return {};
@@ -929,26 +955,36 @@ void DocumentForm::writeChanges(Connection& data)
 {
     const QString key = qd8::text(m_row.value(m_definition.keyField.toLower()));
     const QString caption = shownCaption(m_entries.first().field);
-    Recordset rs;
-    rs.open(Sql("SELECT * FROM ") + m_definition.table + " WHERE " + m_definition.keyField + "=" + quoted(key), data, Recordset::adOpenKeyset,
-        Recordset::adLockOptimistic);
-    if (rs.eof())
+    const Sql byKey = Sql(" WHERE ") + m_definition.keyField + "=" + quoted(key);
+    // The row's write lock first, so no other save slips in between the check and the write.
+    if (data.execute(Sql("UPDATE ") + m_definition.table + " SET " + m_definition.keyField + "=" + m_definition.keyField + byKey) == 0)
         throw DbError(DbError::Kind::Conflict, bilingual("ผู้ใช้อื่นลบ %1 %2 ไปแล้ว", "Another user deleted %1 %2").arg(caption, key));
+    Recordset rs;
+    rs.open(Sql("SELECT * FROM ") + m_definition.table + byKey, data);
     if (!conflictWith(rs).isEmpty())
         throw DbError(DbError::Kind::Conflict,
             bilingual("ผู้ใช้อื่นแก้ไข %1 %2 ไปแล้วหลังจากที่ท่านเปิด", "Another user changed %1 %2 after you opened it").arg(caption, key));
-    bool changed = false;
+    // Found by its key alone: the check above has compared every column.
+    const Backend& backend = data.backend();
+    QStringList sets;
+    QVariantList values;
+    const auto set = [&](const QString& field, const QVariant& value) {
+        values << value;
+        sets << field + QLatin1Char('=') + backend.placeholder(int(values.size()));
+    };
     for (const Entry& entry : m_entries) {
         const bool typed = !entry.box || !entry.box->isReadOnly() || !entry.field.sumOf.isEmpty();
-        if (!entry.box || !typed || entry.box->text() == entry.clean)
-            continue;
-        rs.setField(entry.field.field, storedValue(entry));
-        changed = true;
+        if (entry.box && typed && entry.box->text() != entry.clean)
+            set(entry.field.field, storedValue(entry));
     }
-    if (!changed)
+    if (sets.isEmpty())
         return;
-    setAudit(rs, "EditBy", "EditDate");
-    rs.update();
+    const QString& stem = m_definition.auditPrefix;
+    if (!stem.isEmpty() && rs.fieldIndex(stem + QStringLiteral("EditBy")) >= 0)
+        set(stem + QStringLiteral("EditBy"), UserLoginName());
+    if (!stem.isEmpty() && rs.fieldIndex(stem + QStringLiteral("EditDate")) >= 0)
+        set(stem + QStringLiteral("EditDate"), QDateTime::currentDateTime());
+    data.execute(Sql("UPDATE ") + m_definition.table + " SET " + sets.join(QStringLiteral(", ")) + byKey, values);
 }
 
 QString DocumentForm::changedFields() const
@@ -986,6 +1022,7 @@ bool DocumentForm::save()
         return false;
     QString key = keyBox()->text().trimmed();
     const QString changes = editing() ? changedFields() : QString();
+    const OperationName operation(caption());  // who waits, should another writer hold the rows
     try {
         Connection data;
         data.open(DataConnectionString());
@@ -1027,11 +1064,8 @@ void DocumentForm::afterSave(const QString& key)
     m_started = false;
     loadRow();
     Setbuttons();
-    if (wasAdding) {
-        const QString shown = windowTitle();
-        const QString head = shown.contains(QLatin1String(" - ")) ? shown.section(QStringLiteral(" - "), 0, -2) : m_title->text();
-        setWindowTitle(head + QStringLiteral(" - ") + key);
-    }
+    if (wasAdding)
+        retitle(key);
     setStatusText(bilingual("บันทึก %1 แล้ว", "Saved %1").arg(key));
     Q_EMIT Saved(key);
 }
@@ -1039,6 +1073,151 @@ void DocumentForm::afterSave(const QString& key)
 void DocumentForm::setStatusText(const QString& message)
 {
     m_status->setText(message);
+}
+
+void DocumentForm::retitle(const QString& key)
+{
+    // The host's tab follows the title: "<list's caption> - <key>".
+    const QString shown = windowTitle();
+    const QString head = shown.contains(QLatin1String(" - ")) ? shown.section(QStringLiteral(" - "), 0, -2) : m_title->text();
+    setWindowTitle(head + QStringLiteral(" - ") + (key.isEmpty() ? bilingual("เพิ่ม", "New") : key));
+}
+
+void DocumentForm::addNew()
+{
+    if (!confirmClose(m_title->text()))
+        return;
+    m_mode = QStringLiteral("ADD");
+    m_newKey.clear();
+    m_started = false;
+    Setbuttons();
+    retitle(QString());
+    setStatusText(QString());
+}
+
+void DocumentForm::editShown()
+{
+    if (!m_loaded || adding() || editing())
+        return;
+    m_mode = QStringLiteral("EDIT");
+    loadRow();  // what the clerk edits is the row as it stands now
+    Setbuttons();
+}
+
+QString DocumentForm::deleteRefusal(const DocumentDefinition& definition, const QString& key, Connection& data, int languageId)
+{
+    Recordset rs;
+    rs.open(Sql("SELECT * FROM ") + definition.table + " WHERE " + definition.keyField + "=" + quoted(key), data);
+    if (rs.eof())
+        return inLanguage(languageId, "ไม่พบ %1 อาจถูกลบไปแล้ว", "%1 is not there; it may be deleted already").arg(key);
+    // A document that went through its workflow is cancelled, not deleted.
+    const QString& p = definition.auditPrefix;
+    if (!definition.isMaster() && !p.isEmpty()) {
+        for (const char* stem : {"ConfirmStatus", "ApproveStatus", "CancelStatus"})
+            if (rs.fieldIndex(p + QLatin1String(stem)) >= 0 && toNumber(rs.field(p + QLatin1String(stem))) != 0)
+                return inLanguage(languageId, "%1 ยืนยัน อนุมัติ หรือยกเลิกแล้ว ลบไม่ได้", "%1 is confirmed, approved or cancelled and cannot be deleted")
+                    .arg(key);
+    }
+    for (const auto& [table, column] : definition.usedBy) {
+        Recordset used;
+        used.open(Sql("SELECT ") + column + " FROM " + table + " WHERE " + column + "=" + quoted(key), data);
+        if (!used.eof())
+            return inLanguage(languageId, "%1 ถูกใช้อยู่ใน %2 ลบไม่ได้", "%1 is in use in %2 and cannot be deleted").arg(key, table);
+    }
+    return {};
+}
+
+void DocumentForm::deleteRow(const DocumentDefinition& definition, const QString& key, Connection& data, DataObject* numbers, const QString& by)
+{
+    const QString thai = deleteRefusal(definition, key, data, 0);
+    if (!thai.isEmpty())
+        throw DbError(DbError::Kind::Refused, QStringLiteral("delete refused")).explain(thai, deleteRefusal(definition, key, data, 1));
+    if (!definition.posting.isEmpty()) {
+        Recordset rs;
+        rs.open(Sql("SELECT ") + definition.posting.voucherField + " FROM " + definition.table + " WHERE " + definition.keyField + "=" + quoted(key),
+            data);
+        const QString voucher = rs.eof() ? QString() : qd8::text(rs.field(0));
+        if (!voucher.isEmpty()) {
+            data.execute(Sql("DELETE FROM QD8TGLTransSub WHERE TGTSTGLTNo=") + quoted(voucher));
+            data.execute(Sql("DELETE FROM QD8TGLTrans WHERE TGLTNo=") + quoted(voucher));
+        }
+    }
+    if (!definition.lines.isEmpty())
+        data.execute(Sql("DELETE FROM ") + definition.lines.table + " WHERE " + definition.lines.keyField + "=" + quoted(key));
+    if (data.execute(Sql("DELETE FROM ") + definition.table + " WHERE " + definition.keyField + "=" + quoted(key)) != 1)
+        throw DbError(DbError::Kind::Conflict, QStringLiteral("row already deleted"))
+            .explain(QStringLiteral("ผู้ใช้อื่นลบ %1 ไปแล้ว").arg(key), QStringLiteral("Another user deleted %1").arg(key));
+    if (!definition.isMaster() && !definition.auditPrefix.isEmpty())
+        DocumentHistory::record(data, numbers, definition.table, key, QStringLiteral("Delete"), by);
+}
+
+bool DocumentForm::deleteShown()
+{
+    if (!m_loaded || adding())
+        return false;
+    auto& messages = Services::messages();
+    const QString title = m_title->text();
+    const QString key = m_key;
+    try {
+        Connection data;
+        data.open(DataConnectionString());
+        const QString refusal = deleteRefusal(m_definition, key, data, LanguageID());
+        if (!refusal.isEmpty()) {
+            messages.critical(title, refusal);
+            return false;
+        }
+        data.close();
+        if (!messages.question(bilingual("ยืนยันคำสั่ง", "Confirm"), bilingual("ต้องการลบ %1 ใช่หรือไม่", "Delete %1?").arg(key)))
+            return false;
+        data.open(DataConnectionString());
+        TransactionGuard transaction(data);
+        deleteRow(m_definition, key, data, dataObject(), UserLoginName());
+        transaction.commit();
+    } catch (const DbError& error) {
+        messages.critical(title, error.report(LanguageID()));
+        return false;
+    }
+    Q_EMIT Deleted(key);
+    m_mode = QStringLiteral("VIEW");
+    clearEntries();
+    markClean();
+    Q_EMIT CloseAction();
+    if (isWindow())
+        close();
+    return true;
+}
+
+ListPrinter DocumentForm::printer() const
+{
+    QList<QPair<QString, QString>> header;
+    for (const Entry& entry : m_entries) {
+        const QString caption = shownCaption(entry.field);
+        if (entry.check)
+            header.append({caption, entry.check->isChecked() ? bilingual("ใช่", "Yes") : bilingual("ไม่ใช่", "No")});
+        else if (!entry.box->text().isEmpty())
+            header.append({caption, entry.name && !entry.name->text().isEmpty() ? entry.box->text() + QStringLiteral(" ") + entry.name->text()
+                                                                               : entry.box->text()});
+    }
+    const DocumentLines& lines = m_definition.lines;
+    Sql sql;
+    QString captions;
+    if (!lines.isEmpty()) {
+        sql = Sql("SELECT ") + lines.fields + " FROM " + lines.table + " WHERE " + lines.keyField + "=" + quoted(m_key) + " ORDER BY "
+            + lines.fields.section(QLatin1Char(','), 0, 0);
+        captions = isThai(LanguageID()) ? lines.captions : lines.captions2;
+    }
+    return ListPrinter(caption(), sql, captions, DataConnectionString(), m_dateLook, header);
+}
+
+QString DocumentForm::printout() const
+{
+    return printer().html();
+}
+
+void DocumentForm::print()
+{
+    if (m_loaded && !adding())
+        printer().preview(this);
 }
 
 } // namespace qd8

@@ -8,9 +8,11 @@
 #include <QHash>
 #include <QList>
 #include <QVariant>
+#include <functional>
 #include <memory>
 
 class QCheckBox;
+class QHBoxLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -19,8 +21,10 @@ class QVBoxLayout;
 namespace qd8 {
 
 class Connection;
+class DataObject;
 class DocumentAttachments;
 class DocumentPanels;
+class ListPrinter;
 class Recordset;
 
 // One header field of a document or master form.
@@ -77,6 +81,16 @@ struct DocumentField {
     DocumentField& percentOfField(const QString& source, int rate) { percentOf = source; percent = rate; return *this; }
 };
 
+// The lines under a document's header: printed with it and deleted with it.
+struct DocumentLines {
+    QString table;
+    QString keyField;  // the line's column holding the document's number
+    QString fields;    // printed, comma list; the first orders them
+    QString captions;  // Thai
+    QString captions2; // English
+    bool isEmpty() const { return table.isEmpty(); }
+};
+
 // What a document or master form edits: one row of one table, found by a single key.
 struct DocumentDefinition {
     QString title;   // Thai
@@ -102,6 +116,10 @@ struct DocumentDefinition {
     DocumentPosting posting;
     // A sales document with the customer's credit and point panels (empty: none).
     DocumentSalesFields sales;
+    DocumentLines lines;
+    // Columns of other tables that hold this row's key (table, column): while one does, the
+    // row is in use and cannot be deleted.
+    QList<QPair<QString, QString>> usedBy;
 
     bool isMaster() const { return numberPrefix.isEmpty(); }
     // The confirm, approve and cancel flags of a document table ("<prefix>ConfirmStatus"...).
@@ -113,8 +131,11 @@ struct DocumentDefinition {
 // fields when editing; a row someone else changed or deleted meanwhile is reported and the
 // clerk's values stay in the form). A list opens it through the host's form collection and
 // drives it by name: RUNMODE, Setbuttons, NewDocNo/DocNo or NewMasterCode/MasterCode, then
-// FillData. Keyboard first: Enter moves on, F2 picks a code, Ctrl+S saves, Esc closes
-// (asking when there are unsaved changes).
+// FillData. Keyboard first: Enter moves on, F2 picks a code, and the tool bar's commands
+// have the editors' keys (Add Ctrl+N, Edit Ctrl+E, Save Ctrl+S, Delete Ctrl+Delete, Print
+// Ctrl+P, Close Esc); leaving unsaved changes (closing, Add, Edit) asks Save / Discard /
+// Cancel first. A command the mode does not allow is disabled, never hidden, so the
+// buttons keep their places.
 class DocumentForm : public HostedControl {
     Q_OBJECT
     Q_PROPERTY(QString RUNMODE READ RUNMODE WRITE setRUNMODE)
@@ -165,6 +186,25 @@ public:
     bool saveChanges() override { return save(); }
     // Esc and the close button: asks Save / Discard / Cancel first when there are unsaved changes.
     void requestClose();
+    // Ctrl+N: a new row (after the unsaved-changes question).
+    void addNew();
+    // Ctrl+E: the row shown becomes editable, read again as it stands now.
+    void editShown();
+    // Ctrl+Delete: refused while the row is in use or its status forbids it, else asked
+    // and deleted with its lines and its history event; the form then closes. True when deleted.
+    bool deleteShown();
+    // Ctrl+P: a preview of the printed row (header, lines, date in the user's era).
+    void print();
+    // What print() prints, as HTML.
+    QString printout() const;
+
+    // Why `key` cannot be deleted ("" when it can): a workflow status, or a row that refers
+    // to it. DbError.
+    static QString deleteRefusal(const DocumentDefinition& definition, const QString& key, Connection& data, int languageId);
+    // Deletes the row, its lines and its voucher and records the event, on `data` inside the
+    // caller's transaction; a refusal is thrown as a DbError worded for the clerk.
+    static void deleteRow(const DocumentDefinition& definition, const QString& key, Connection& data, DataObject* numbers,
+        const QString& by);
 
 public Q_SLOTS:
     // Captions and code names in the session language; a row in VIEW is read again.
@@ -172,6 +212,7 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void Saved(QString key);
+    void Deleted(QString key);
     void CloseAction();
 
 protected:
@@ -225,6 +266,9 @@ private:
     QString conflictWith(const Recordset& rs) const;
     void afterSave(const QString& key);
     void setStatusText(const QString& message);
+    QPushButton* addCommand(const QString& key, const char* thai, const char* english, std::function<void()> run);
+    void retitle(const QString& key);
+    ListPrinter printer() const;
     // "field: old -> new; ..." of what the clerk changed, for the document's history.
     QString changedFields() const;
 
@@ -242,6 +286,15 @@ private:
     QLabel* m_title = nullptr;
     QLabel* m_modeLabel = nullptr;
     QLabel* m_status = nullptr;
+    struct Command {
+        QString key;  // the editor key: its shortcut and its permission
+        const char* thai;
+        const char* english;
+        QPushButton* button;
+        std::function<void()> run;
+    };
+    QList<Command> m_commands;  // the tool bar, in order
+    QHBoxLayout* m_toolBar = nullptr;
     QPushButton* m_save = nullptr;
     QPushButton* m_close = nullptr;
     std::unique_ptr<DocumentVoucher> m_voucher;  // documents that post a voucher

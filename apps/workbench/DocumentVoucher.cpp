@@ -92,8 +92,7 @@ void DocumentVoucher::rollback()
 {
     // A new voucher's number went back with the document's transaction: the panel must not
     // keep it, or a later save could overwrite another voucher saved under it meanwhile.
-    if (m_voucherNo.isEmpty())
-        m_panel->setGLDocNo(QString());
+    m_panel->saveRolledBack();
 }
 
 } // namespace qd8

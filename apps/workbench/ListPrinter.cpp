@@ -30,11 +30,15 @@ QString cellText(const QVariant& value, const DateLook& look)
 
 } // namespace
 
-ListPrinter::ListPrinter(const QString& title, const QString& sql, const QString& captionList, const QString& connectionString,
-    const DateLook& look)
+ListPrinter::ListPrinter(const QString& title, const Sql& sql, const QString& captionList, const QString& connectionString,
+    const DateLook& look, const QList<QPair<QString, QString>>& header)
     : m_title(title)
 {
-    QString body;
+    QString fields;
+    for (const auto& [caption, value] : header)
+        fields += QStringLiteral("<tr><th align=\"left\">%1</th><td>%2</td></tr>").arg(caption.toHtmlEscaped(), value.toHtmlEscaped());
+    if (!fields.isEmpty())
+        fields = QStringLiteral("<table cellpadding=\"3\">%1</table><br/>").arg(fields);
     QStringList captions = splitList(captionList);
     // An editor's code list names its title and columns: "Title;X#Caption1;A#Caption2;B".
     if (captionList.startsWith(QLatin1String("Title;"))) {
@@ -47,29 +51,34 @@ ListPrinter::ListPrinter(const QString& title, const QString& sql, const QString
                 captions << value;
         }
     }
-    body += QStringLiteral("<tr>");
-    for (const QString& caption : captions)
-        body += QStringLiteral("<th>%1</th>").arg(caption.toHtmlEscaped());
-    body += QStringLiteral("</tr>");
-    try {
-        Connection c;
-        c.open(connectionString);
-        Recordset rs;
-        rs.open(Sql(sql), c);
-        for (; !rs.eof(); rs.moveNext(), ++m_rows) {
-            body += QStringLiteral("<tr>");
-            for (int column = 0; column < rs.fieldCount() && column < captions.size(); ++column)
-                body += QStringLiteral("<td>%1</td>").arg(cellText(rs.field(column), look).toHtmlEscaped());
-            body += QStringLiteral("</tr>");
+    QString table;
+    if (!sql.text().isEmpty()) {
+        table = QStringLiteral("<tr>");
+        for (const QString& caption : captions)
+            table += QStringLiteral("<th>%1</th>").arg(caption.toHtmlEscaped());
+        table += QStringLiteral("</tr>");
+        try {
+            Connection c;
+            c.open(connectionString);
+            Recordset rs;
+            rs.open(sql, c);
+            for (; !rs.eof(); rs.moveNext(), ++m_rows) {
+                table += QStringLiteral("<tr>");
+                for (int column = 0; column < rs.fieldCount() && column < captions.size(); ++column)
+                    table += QStringLiteral("<td>%1</td>").arg(cellText(rs.field(column), look).toHtmlEscaped());
+                table += QStringLiteral("</tr>");
+            }
+        } catch (const DbError& error) {
+            table += QStringLiteral("<tr><td colspan=\"%1\">%2</td></tr>")
+                         .arg(captions.size())
+                         .arg(error.report(look.languageId, QStringLiteral(": ")).toHtmlEscaped());
         }
-    } catch (const DbError& error) {
-        body += QStringLiteral("<tr><td colspan=\"%1\">%2</td></tr>").arg(captions.size()).arg(error.report(look.languageId, QStringLiteral(": ")).toHtmlEscaped());
+        table = QStringLiteral("<p>%1</p><table border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\">%2</table>")
+                    .arg(m_rows)
+                    .arg(table);
     }
-    m_html = QStringLiteral("<html><body><h2>%1</h2><p>%2 — %3</p>"
-                            "<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\" width=\"100%\">%4</table></body></html>")
-                 .arg(m_title.toHtmlEscaped(), dateTimeText(QDateTime::currentDateTime(), look.era))
-                 .arg(m_rows)
-                 .arg(body);
+    m_html = QStringLiteral("<html><body><h2>%1</h2><p>%2</p>%3%4</body></html>")
+                 .arg(m_title.toHtmlEscaped(), dateTimeText(QDateTime::currentDateTime(), look.era), fields, table);
 }
 
 QString ListPrinter::html() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DocumentForm.h"
 #include "widgets/HostedControl.h"
 
 class QLabel;
@@ -9,12 +10,15 @@ class QPushButton;
 namespace qd8 {
 
 class DateEdit;
+class DocumentPanels;
 class GLControl;
 
 // The journal voucher form the general-journal list opens (detail form "DOCGL"): the
 // voucher date and reference above the voucher panel. A list drives it by name: RUNMODE,
 // Setbuttons, NewDocNo/DocNo, FillData. Ctrl+S checks the voucher (isReadyToSave) and saves
-// it in one transaction (UpdateGL8), showing the number; Esc closes.
+// it with its history event in one transaction (UpdateGL8 on the form's connection),
+// showing the number; Esc closes. The history pane under the lines shows the voucher's
+// events and confirms, approves or cancels it like every other document form.
 class VoucherForm : public HostedControl {
     Q_OBJECT
     Q_PROPERTY(QString RUNMODE READ RUNMODE WRITE setRUNMODE)
@@ -39,6 +43,7 @@ public:
     // Checks and saves; true when the voucher was written.
     bool save();
     GLControl* panel() const { return m_gl; }
+    DocumentPanels* history() const { return m_panels; }
     DateEdit* dateBox() const { return m_date; }
 
 Q_SIGNALS:
@@ -53,11 +58,16 @@ private:
     // The panel takes the session the list handed this form, once.
     void ensureSession();
     void retranslate();
+    // What the history's Edit event names: the header fields and every line.
+    QVariantMap shown() const;
 
     QString m_mode = QStringLiteral("VIEW");
     QString m_newNumber;
     QString m_number;
     bool m_sessionGiven = false;
+    DocumentDefinition m_definition;
+    QVariantMap m_loaded;  // shown() as loaded or last saved
+    DocumentPanels* m_panels = nullptr;
     GLControl* m_gl = nullptr;
     DateEdit* m_date = nullptr;
     QLineEdit* m_reference = nullptr;

@@ -6,6 +6,7 @@
 #include "ReportWindow.h"
 #include "TableListForm.h"
 #include "VoucherForm.h"
+#include "WorkbenchWindow.h"
 #include "documents/DucumentList.h"
 #include "documents/MasterList.h"
 #include "editors/BranchOption.h"
@@ -14,6 +15,8 @@
 #include "editors/HostOption.h"
 #include "editors/QuickGrid.h"
 #include "editors/UserOption.h"
+#include "foundation/Connection.h"
+#include "foundation/TransactionGuard.h"
 #include "widgets/FormRegistry.h"
 
 namespace qd8 {
@@ -25,9 +28,42 @@ void registerList(const QString& name, const TableListDefinition& definition)
     FormRegistry::registerForm(name, [definition](QWidget* parent) { return new TableListForm(definition, parent); });
 }
 
+// The forms by name, before they are registered: a master's in-use check is every code
+// field of another form that picks from its table.
+QList<QPair<QString, DocumentDefinition>> pending;
+
 void registerDocument(const QString& name, const DocumentDefinition& definition)
 {
-    FormRegistry::registerForm(name, [definition](QWidget* parent) { return new DocumentForm(definition, parent); });
+    pending.append({name, definition});
+}
+
+void registerPending()
+{
+    for (auto& [name, master] : pending) {
+        if (!master.isMaster())
+            continue;
+        for (const auto& [other, definition] : std::as_const(pending))
+            for (const DocumentField& field : definition.fields)
+                if (field.kind == DocumentField::Kind::Code && field.pickTable.compare(master.table, Qt::CaseInsensitive) == 0)
+                    master.usedBy.append({definition.table, field.field});
+    }
+    for (const auto& [name, definition] : std::as_const(pending))
+        FormRegistry::registerForm(name, [definition](QWidget* parent) { return new DocumentForm(definition, parent); });
+    // A list's Delete goes through the same checks and history as its form's.
+    const std::pair<const char*, const char*> lists[] = {{"PURPR", "DOCPR"}, {"PUPO", "DOCPO"}, {"SOORDER", "DOCSO"}, {"ARINVOICE", "DOCINVOICE"},
+        {"ICISSUEUSE", "DOCISSUE"}, {"ARCUSTOMER", "MASTERCUSTOMER"}, {"ICPRODUCT", "MASTERPRODUCT"}, {"APVENDOR", "MASTERSUPPLIER"}};
+    for (const auto& [list, form] : lists)
+        for (const auto& [name, definition] : std::as_const(pending))
+            if (name == QLatin1String(form))
+                WorkbenchWindow::registerDeleter(QString::fromLatin1(list), [definition](const QString& key, const WorkbenchSession& session) {
+                    Connection data;
+                    data.open(session.dataConnectionString);
+                    TransactionGuard transaction(data);
+                    DocumentForm::deleteRow(definition, key, data, nullptr, session.loginName);
+                    transaction.commit();
+                    return true;
+                });
+    pending.clear();
 }
 
 // A document header: number, date (today when added), due date, then the form's own fields,
@@ -58,15 +94,19 @@ DocumentDefinition master(const char* title, const char* title2, const char* tab
 void registerDocumentForms()
 {
     using F = DocumentField;
-    registerDocument(QStringLiteral("DOCPR"),
-        document("ใบขอซื้อ", "Purchase Request", "QD8TPR", "TPRD", "PR",
-            {F::branch("TPRDTBraCode"), F::project("TPRDTPrjCode"), F::division("TPRDTDivCode"),
-                F::employee("TPRDTEmpCode", QStringLiteral("ผู้ขอซื้อ"), QStringLiteral("Requested By"))}));
-    registerDocument(QStringLiteral("DOCPO"),
-        document("ใบสั่งซื้อ", "Purchase Order", "QD8TPO", "TPOD", "PO",
-            {F::supplier("TPODTAPNCode").mandatory(), F::branch("TPODTBraCode"), F::project("TPODTPrjCode"),
-                F::money("TPODTotalAmount", QStringLiteral("ยอดรวม"), QStringLiteral("Total Amount")),
-                F::status("TPODBillStatus", QStringLiteral("รับใบแจ้งหนี้แล้ว"), QStringLiteral("Billed"))}));
+    DocumentDefinition request = document("ใบขอซื้อ", "Purchase Request", "QD8TPR", "TPRD", "PR",
+        {F::branch("TPRDTBraCode"), F::project("TPRDTPrjCode"), F::division("TPRDTDivCode"),
+            F::employee("TPRDTEmpCode", QStringLiteral("ผู้ขอซื้อ"), QStringLiteral("Requested By"))});
+    request.lines = {QStringLiteral("QD8TPRSub"), QStringLiteral("TPRMTPRDNo"), QStringLiteral("TPRMLn,TPRMProductCode,TPRMProductName,TPRMQuantity,TPRMTUntCode"),
+        QStringLiteral("ลำดับ,รหัสสินค้า,ชื่อสินค้า,จำนวน,หน่วย"), QStringLiteral("Line,Product,Name,Quantity,Unit")};
+    registerDocument(QStringLiteral("DOCPR"), request);
+    DocumentDefinition purchase = document("ใบสั่งซื้อ", "Purchase Order", "QD8TPO", "TPOD", "PO",
+        {F::supplier("TPODTAPNCode").mandatory(), F::branch("TPODTBraCode"), F::project("TPODTPrjCode"),
+            F::money("TPODTotalAmount", QStringLiteral("ยอดรวม"), QStringLiteral("Total Amount")),
+            F::status("TPODBillStatus", QStringLiteral("รับใบแจ้งหนี้แล้ว"), QStringLiteral("Billed"))});
+    purchase.lines = {QStringLiteral("QD8TPO2"), QStringLiteral("TPO2TPODNo"), QStringLiteral("TPO2Acknowledge,TPO2AckDate,TPO2AckBy"),
+        QStringLiteral("ผู้จำหน่ายตอบรับ,วันที่ตอบรับ,ผู้ตอบรับ"), QStringLiteral("Acknowledged,Date,By")};
+    registerDocument(QStringLiteral("DOCPO"), purchase);
     // A sales order shows the customer's credit beside him and his points under the fields;
     // it spends point documents made for sales orders (type 1).
     DocumentDefinition order = document("ใบสั่งขาย", "Sales Order", "QD8TSO", "TSOD", "SO",
@@ -76,6 +116,10 @@ void registerDocumentForms()
             F::money("TSODTotalAmount", QStringLiteral("ยอดรวม"), QStringLiteral("Total Amount")),
             F::status("TSODBillStatus", QStringLiteral("ออกใบแจ้งหนี้แล้ว"), QStringLiteral("Invoiced"))});
     order.sales = {QStringLiteral("TSODTARNCode"), QStringLiteral("TSODTotalAmount"), QStringLiteral("TInvTJobNo"), QStringLiteral("SO"), 1};
+    order.lines = {QStringLiteral("QD8TSOSub"), QStringLiteral("TSOBTSODNo"), QStringLiteral("TSOBLn,TSOBTPOSCode,TSOBPOSName,TSOBQuantity,TSOBTUntCode,TSOBAmount"),
+        QStringLiteral("ลำดับ,รหัสสินค้า,ชื่อสินค้า,จำนวน,หน่วย,จำนวนเงิน"), QStringLiteral("Line,Product,Name,Quantity,Unit,Amount")};
+    // A job made for the order, or a point document it spent, keeps it.
+    order.usedBy = {{QStringLiteral("QD8TJob"), QStringLiteral("TJobRefNo")}, {QStringLiteral("QD8TPointTrans"), QStringLiteral("TPiTRefNo")}};
     registerDocument(QStringLiteral("DOCSO"), order);
     // The point documents a sales order spends (opened from its point panel).
     DocumentDefinition points{QStringLiteral("ใบใช้ Point"), QStringLiteral("Point Document"), QStringLiteral("QD8TPointTrans"),
@@ -86,6 +130,8 @@ void registerDocumentForms()
                   << F::number("TPiTTotalQuantity", QStringLiteral("จำนวน Point"), QStringLiteral("Points"))
                   << F::text("TPiTRefNo", QStringLiteral("ใช้โดยเอกสาร"), QStringLiteral("Used by")).shownOnly()
                   << F::text("TPiTDescription", QStringLiteral("หมายเหตุ"), QStringLiteral("Note"));
+    points.lines = {QStringLiteral("QD8TPointTransSub"), QStringLiteral("TPoTTPitNo"), QStringLiteral("TPoTLn,TPoTQuantity,TPoTValue,TPoTDescription"),
+        QStringLiteral("ลำดับ,จำนวน Point,มูลค่า,หมายเหตุ"), QStringLiteral("Line,Points,Value,Note")};
     registerDocument(QStringLiteral("DOCPOINT"), points.withWorkflowStatuses(QStringLiteral("TPiT")));
     // An invoice posts its voucher (receivable, sales, output VAT) through the posting format
     // ARINVOICE, in the invoice's own transaction.
@@ -140,6 +186,7 @@ void registerDocumentForms()
                 F::text("TAPNTelephone", QStringLiteral("โทรศัพท์"), QStringLiteral("Telephone")),
                 F::number("TAPNCreditDay", QStringLiteral("เครดิต (วัน)"), QStringLiteral("Credit Days")),
                 F::status("TAPNActiveStatus", QStringLiteral("ใช้งาน"), QStringLiteral("Active"))}));
+    registerPending();
 }
 
 } // namespace

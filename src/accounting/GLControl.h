@@ -234,6 +234,9 @@ public:
     // voucher commit (or roll back) together. nullptr (the default): the save opens its own
     // connection and transaction.
     void setSaveConnection(Connection* connection);
+    // The host rolled back the transaction a save wrote on its connection: the panel forgets
+    // that save (a new voucher's drawn number, the stamp it checks the next save against).
+    void saveRolledBack();
 
     GridEditor* grid() const;
     // The balance (debit - credit of the saved lines) of the current line's account.

@@ -102,6 +102,7 @@ QVariant GLControl::loadedHeader(const QString& field) const
 void GLControl::FillDataFormat()
 {
     d->grid->ClearRows();
+    d->formatReadFor.clear();  // the clerk asked for the format as it stands now
     FillAutoFormatNow(true);
 }
 
@@ -113,44 +114,60 @@ bool GLControl::FillAutoFormatNow(bool ForceFill)
     try {
         Connection data;
         data.open(DataConnectionString());
-        Recordset group;
-        group.open(Sql("SELECT TGFGTGLBCode FROM QD8TGLFormatGroup WHERE TGFGAlias=") + quoted(d->formatGroup) + " AND TGFGFlag1=1", data);
-        if (group.eof())
+        const QString readFor = d->formatGroup + QLatin1Char('\n') + DataConnectionString();
+        if (d->formatReadFor != readFor) {
+            d->formatBook.clear();
+            d->formatLines.clear();
+            Recordset group;
+            group.open(Sql("SELECT TGFGTGLBCode FROM QD8TGLFormatGroup WHERE TGFGAlias=") + quoted(d->formatGroup) + " AND TGFGFlag1=1", data);
+            if (!group.eof()) {
+                d->formatBook = group.text(QStringLiteral("TGFGTGLBCode"));
+                Recordset lines;
+                lines.open(Sql("SELECT * FROM QD8TGLFormat WHERE TGFMTGFGAlias=") + quoted(d->formatGroup) + " ORDER BY TGFMLn", data);
+                for (; !lines.eof(); lines.moveNext()) {
+                    QString account = lines.text(QStringLiteral("TGFMTACCCode"));
+                    if (const QString alias = lines.text(QStringLiteral("TGFMTACMAlias")); !alias.isEmpty()) {
+                        Recordset map;
+                        map.open(Sql("SELECT TACMTACCCode FROM QD8TAccountMap WHERE TACMAlias=") + quoted(alias), data);
+                        account = map.eof() ? QString() : map.text(QStringLiteral("TACMTACCCode"));
+                    }
+                    d->formatLines.append({lines.text(QStringLiteral("TGFMLn")), lines.text(QStringLiteral("TGFMFormula")),
+                        lines.text(QStringLiteral("TGFMSide")), account, lines.text(QStringLiteral("TGFMDescription")),
+                        lines.text(QStringLiteral("TGFMDescription2"))});
+                }
+            }
+            d->formatReadFor = readFor;
+        }
+        if (d->formatBook.isEmpty())
             return false;
         if (GLBook().isEmpty())
-            setGLBook(group.text(QStringLiteral("TGFGTGLBCode")));
-        Recordset lines;
-        lines.open(Sql("SELECT * FROM QD8TGLFormat WHERE TGFMTGFGAlias=") + quoted(d->formatGroup) + " ORDER BY TGFMLn", data);
+            setGLBook(d->formatBook);
         d->grid->ClearRows();
         SpeedProcess2(true, bilingual("บันทึกบัญชีอัตโนมัติ", "Automatic posting"));
-        for (; !lines.eof(); lines.moveNext()) {
-            const QString formula = lines.text(QStringLiteral("TGFMFormula"));
-            const auto value = evaluateFormula(formula, d->x);
+        for (const Private::FormatLine& line : std::as_const(d->formatLines)) {
+            const auto value = evaluateFormula(line.formula, d->x);
             if (!value) {
                 SpeedProcess2(false);
                 Services::messages().critical(bilingual("บันทึกบัญชีอัตโนมัติ", "Automatic posting"),
                     bilingual("สูตร \"%1\" ของรูปแบบ %2 บรรทัด %3 ไม่ถูกต้อง", "The formula \"%1\" of format %2 line %3 cannot be read")
-                        .arg(formula, d->formatGroup, lines.text(QStringLiteral("TGFMLn"))));
+                        .arg(line.formula, d->formatGroup, line.ln));
                 return false;
             }
             // A negative amount belongs on the other side.
             const Currency amount = roundToCents(*value);
-            if (amount == Currency())
+            if (amount == Currency() || line.account.isEmpty())
                 continue;
-            const bool debit = (lines.text(QStringLiteral("TGFMSide")).compare(QLatin1String("D"), Qt::CaseInsensitive) == 0)
-                == (amount > Currency());
+            const bool debit = (line.side.compare(QLatin1String("D"), Qt::CaseInsensitive) == 0) == (amount > Currency());
             const int before = d->grid->Rows();
-            FillAutoLineTR(lines.text(QStringLiteral("TGFMTACMAlias")), debit, amount > Currency() ? amount : -amount, &data,
-                lines.text(QStringLiteral("TGFMTACMAlias")).isEmpty() ? lines.text(QStringLiteral("TGFMTACCCode")) : QString());
-            const QString text = lines.text(QStringLiteral("TGFMDescription"));
-            const QString text2 = lines.text(QStringLiteral("TGFMDescription2"));
+            FillAutoLineTR(QString(), debit, amount > Currency() ? amount : -amount, &data, line.account);
             for (int row = before + 1; row <= d->grid->Rows(); ++row)
-                if (!text.isEmpty() || !text2.isEmpty())
-                    FillDescription(row, text, text2);
+                if (!line.description.isEmpty() || !line.description2.isEmpty())
+                    FillDescription(row, line.description, line.description2);
         }
         SpeedProcess2(false);
     } catch (const DbError& error) {
         SpeedProcess2(false);
+        d->formatReadFor.clear();
         Services::messages().critical(bilingual("บันทึกบัญชีอัตโนมัติ", "Automatic posting"), error.userText(LanguageID()));
         return false;
     }
@@ -283,6 +300,7 @@ QString GLControl::UpdateGL8(const QDate& iGLDocDate, const QString& iRefNo, con
     const QString& /*ZParam*/, const QString& BranchCode, const QString& iGLDocNo, const QString& iRUNMODE, const QString& iPayTo,
     int iRevision, int iIsAdjust, bool& iUpdateDetailOnly)
 {
+    d->beforeHostCommit.reset();
     if (GLMethod() == 0)
         return {};
     if (!iGLDocNo.isEmpty())
@@ -437,6 +455,9 @@ QString GLControl::UpdateGL8(const QDate& iGLDocDate, const QString& iRefNo, con
             throw;
         }
     }
+    if (d->saveConnection)
+        d->beforeHostCommit = Private::Saved{drawNumber ? QString() : GLDocNo(), d->oldNumber, d->stampKnown, d->loadedFlag3,
+            d->loadedHeader, d->loadedRevision};
     d->oldNumber = GLDocNo();
     d->loadedFlag3 = stamp;
     d->loadedRevision = iRevision;
@@ -449,6 +470,20 @@ QString GLControl::UpdateGL8(const QDate& iGLDocDate, const QString& iRefNo, con
     if (d->refreshAfterSave && !d->saveConnection)
         FillData(d->oldNumber);
     return d->oldNumber;
+}
+
+void GLControl::saveRolledBack()
+{
+    if (!d->beforeHostCommit)
+        return;
+    const Private::Saved& was = *d->beforeHostCommit;
+    setGLDocNo(was.docNo);
+    d->oldNumber = was.oldNumber;
+    d->stampKnown = was.stampKnown;
+    d->loadedFlag3 = was.loadedFlag3;
+    d->loadedHeader = was.loadedHeader;
+    d->loadedRevision = was.loadedRevision;
+    d->beforeHostCommit.reset();
 }
 
 } // namespace qd8

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "accounting/GLControl.h"
 
 #include <QDateTime>
@@ -95,6 +97,15 @@ public:
     Currency x[20];
     bool inputReady = false;
     QString formatGroup;
+    // The posting format as last read, with each line's account resolved: amounts typed
+    // into a document refill the lines from it without reading the format again. Read
+    // again when the format group or the database changes, or the clerk fills from it.
+    struct FormatLine {
+        QString ln, formula, side, account, description, description2;
+    };
+    QString formatReadFor;  // format group and connection string; "" until read
+    QString formatBook;     // "" when the group is not there
+    QList<FormatLine> formatLines;
     QString inputSource;
     QString runMode;
     bool fullAuto = false;
@@ -114,6 +125,16 @@ public:
     QDateTime loadedFlag3;
     QVariantHash loadedHeader;  // the header fields the panel does not show, as loaded
     int loadedRevision = 0;
+    // What a save on the host's connection replaced, until the host commits: its rollback
+    // brings it back (saveRolledBack).
+    struct Saved {
+        QString docNo, oldNumber;
+        bool stampKnown = false;
+        QDateTime loadedFlag3;
+        QVariantHash loadedHeader;
+        int loadedRevision = 0;
+    };
+    std::optional<Saved> beforeHostCommit;
     Connection* saveConnection = nullptr;
 
     // Totals: per-row amounts parsed once, again only for rows changed since.

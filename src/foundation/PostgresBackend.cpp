@@ -1,5 +1,7 @@
 #include "foundation/PostgresBackend_p.h"
 
+#include "foundation/LockWait_p.h"
+
 #include "foundation/Currency.h"
 #include "foundation/DbError.h"
 #include "foundation/RowStore.h"
@@ -9,6 +11,7 @@
 #include <libpq-fe.h>
 #include <poll.h>
 
+#include <cerrno>
 #include <cstring>
 #include <functional>
 #include <vector>
@@ -291,7 +294,7 @@ PGresult* PostgresBackend::send(const QByteArray& sql, const QString& text, cons
     }
     const int count = int(params.size());
     if (auto it = m_prepared.constFind(text); it != m_prepared.constEnd())
-        return PQexecPrepared(m_conn, it->constData(), count, pointers.data(), nullptr, nullptr, 0);
+        return await(PQsendQueryPrepared(m_conn, it->constData(), count, pointers.data(), nullptr, nullptr, 0), text);
 
     // A statement met again is worth a server-side plan; one-off statements are not.
     // Composed texts embed their values, so the memory of texts met once stays bounded.
@@ -306,10 +309,42 @@ PGresult* PostgresBackend::send(const QByteArray& sql, const QString& text, cons
         if (ok) {
             m_prepared.insert(text, name);
             m_seen.remove(text);
-            return PQexecPrepared(m_conn, name.constData(), count, pointers.data(), nullptr, nullptr, 0);
+            return await(PQsendQueryPrepared(m_conn, name.constData(), count, pointers.data(), nullptr, nullptr, 0), text);
         }
     }
-    return PQexecParams(m_conn, sql.constData(), count, nullptr, pointers.data(), nullptr, nullptr, 0);
+    return await(PQsendQueryParams(m_conn, sql.constData(), count, nullptr, pointers.data(), nullptr, nullptr, 0), text);
+}
+
+PGresult* PostgresBackend::await(int sent, const QString& text)
+{
+    if (!sent)
+        return nullptr;  // PQerrorMessage says why
+    // Waiting for the answer without blocking in libpq, so that a statement another
+    // writer's lock holds up says so and can be cancelled.
+    m_wait.reset();
+    while (PQisBusy(m_conn)) {
+        pollfd fd{PQsocket(m_conn), POLLIN, 0};
+        if (poll(&fd, 1, 20) < 0 && errno != EINTR)
+            break;
+        if (!PQconsumeInput(m_conn) || !PQisBusy(m_conn))
+            break;
+        if (!m_wait)
+            m_wait = std::make_unique<LockWait>(text, m_database);
+        if (!m_wait->cancelled() && !m_wait->waiting()) {
+            if (PGcancel* cancel = PQgetCancel(m_conn)) {
+                char error[256];
+                PQcancel(cancel, error, sizeof error);
+                PQfreeCancel(cancel);
+            }
+        }
+    }
+    PGresult* result = nullptr;
+    while (PGresult* next = PQgetResult(m_conn)) {
+        if (result)
+            PQclear(result);
+        result = next;
+    }
+    return result;
 }
 
 PGresult* PostgresBackend::run(const QString& sql, const QVariantList& params)
@@ -335,6 +370,9 @@ PGresult* PostgresBackend::run(const QString& sql, const QVariantList& params)
         if (state && QByteArrayView(state) == "0A000" && m_prepared.contains(sql))
             m_prepared.remove(sql);  // plan outdated by a schema change; prepare again next time
         PQclear(result);
+        const auto wait = std::move(m_wait);
+        if (wait && wait->cancelled() && state && QByteArrayView(state) == "57014")
+            throw wait->cancelledError(sql);
         if (state && (QByteArrayView(state) == "55P03" || QByteArrayView(state) == "40P01"))
             throw DbError(DbError::Kind::Locked, message, sql)
                 .explain(QStringLiteral("ฐานข้อมูล \"%1\" มีโปรแกรมหรือผู้ใช้อื่นกำลังบันทึกรายการเดียวกันอยู่ รอแล้ว %2 วินาที กรุณาลองใหม่เมื่อเสร็จแล้ว")
@@ -343,6 +381,7 @@ PGresult* PostgresBackend::run(const QString& sql, const QVariantList& params)
                         .arg(m_database).arg(LockTimeoutMs / 1000));
         throw DbError(lost ? DbError::Kind::Connection : DbError::Kind::Engine, message, sql);
     }
+    m_wait.reset();
     return result;
 }
 

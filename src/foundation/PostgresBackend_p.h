@@ -9,6 +9,8 @@ struct pg_result;
 
 namespace qd8 {
 
+class LockWait;
+
 // PostgreSQL through libpq: statements seen more than once are prepared and reused,
 // numeric is read as text so money stays exact, and a connection lost to a server
 // restart is re-established before the next statement.
@@ -35,6 +37,9 @@ private:
     void setLockTimeout();
     pg_result* run(const QString& sql, const QVariantList& params);
     pg_result* send(const QByteArray& sql, const QString& text, const QVariantList& params);
+    // The result of the statement just sent (`sent` as PQsend... returned); nullptr when
+    // it could not be sent.
+    pg_result* await(int sent, const QString& text);
     bool reconnect();
     void simple(const char* sql);
 
@@ -45,6 +50,7 @@ private:
     QHash<QString, int> m_seen;
     int m_preparedNames = 0;
     QHash<QString, QStringList> m_keys;
+    std::unique_ptr<LockWait> m_wait;  // the last statement's wait for another writer
 };
 
 } // namespace qd8

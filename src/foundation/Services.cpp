@@ -53,4 +53,23 @@ void Services::setDefaults(MessageService* messages, PickerService* picker, Shel
     defaults = {messages, picker, shell, progress};
 }
 
+namespace {
+thread_local QStringList operationNames;
+} // namespace
+
+OperationName::OperationName(const QString& name)
+{
+    operationNames.append(name);
+}
+
+OperationName::~OperationName()
+{
+    operationNames.removeLast();
+}
+
+QString OperationName::current()
+{
+    return operationNames.isEmpty() ? QString() : operationNames.last();
+}
+
 } // namespace qd8

@@ -117,4 +117,17 @@ public:
     bool step(qint64 done) { return Services::progress().step(done); }
 };
 
+// Names what the user is doing while it lives ("Purchase Request - PR0000013"), for the
+// texts the data layer words itself (a wait for another writer's lock). Scopes nest; the
+// innermost names.
+class OperationName {
+public:
+    explicit OperationName(const QString& name);
+    ~OperationName();
+    OperationName(const OperationName&) = delete;
+    OperationName& operator=(const OperationName&) = delete;
+    // "" outside every scope.
+    static QString current();
+};
+
 } // namespace qd8

@@ -1,5 +1,7 @@
 #include "foundation/SqliteBackend_p.h"
 
+#include "foundation/LockWait_p.h"
+
 #include "foundation/Currency.h"
 #include "foundation/DbError.h"
 #include "foundation/RowStore.h"
@@ -281,18 +283,11 @@ int SqliteBackend::busyWait(void* self, int count)
     // Another connection holds the write lock: wait as long as the busy timeout allows,
     // saying who waits for what, and give up early when the user cancels.
     auto* backend = static_cast<SqliteBackend*>(self);
-    if (count == 0) {
+    if (count == 0 && !backend->m_wait) {
+        backend->m_wait = std::make_unique<LockWait>(backend->m_statement, QFileInfo(backend->m_file).fileName());
         backend->m_busySince.start();
-        if (!backend->m_busyShown) {
-            Services::progress().begin(QStringLiteral("QD8"),
-                QStringLiteral("รอโปรแกรมหรือผู้ใช้อื่นที่กำลังบันทึกแฟ้ม \"%1\"\nWaiting for another program or user writing to \"%1\"")
-                    .arg(backend->m_file),
-                BusyTimeoutMs);
-            backend->m_busyShown = true;
-        }
     }
-    const qint64 waited = backend->m_busySince.elapsed();
-    if (waited >= BusyTimeoutMs || !Services::progress().step(waited))
+    if (backend->m_busySince.elapsed() >= BusyTimeoutMs || !backend->m_wait->waiting())
         return 0;
     sqlite3_sleep(20);
     return 1;
@@ -300,10 +295,7 @@ int SqliteBackend::busyWait(void* self, int count)
 
 void SqliteBackend::endBusyWait()
 {
-    if (!m_busyShown)
-        return;
-    m_busyShown = false;
-    Services::progress().end();
+    m_wait.reset();
 }
 
 bool SqliteBackend::validate()
@@ -365,6 +357,8 @@ void SqliteBackend::fail(const QString& sql) const
 {
     const int code = sqlite3_extended_errcode(m_db) & 0xff;
     const QString message = QString::fromUtf8(sqlite3_errmsg(m_db));
+    if ((code == SQLITE_BUSY || code == SQLITE_LOCKED) && m_wait && m_wait->cancelled())
+        throw m_wait->cancelledError(sql);
     if (code == SQLITE_BUSY || code == SQLITE_LOCKED)
         throw DbError(DbError::Kind::Locked, message, sql)
             .explain(QStringLiteral("โปรแกรมหรือผู้ใช้อื่นกำลังบันทึกแฟ้มข้อมูล \"%1\" อยู่ รอแล้ว %2 วินาที กรุณาลองใหม่เมื่อเสร็จแล้ว")
@@ -384,6 +378,7 @@ void SqliteBackend::fail(const QString& sql) const
 void SqliteBackend::run(const char* sql)
 {
     const auto waited = qScopeGuard([this] { endBusyWait(); });
+    m_statement = QString::fromUtf8(sql);
     char* error = nullptr;
     if (sqlite3_exec(m_db, sql, nullptr, nullptr, &error) != SQLITE_OK) {
         sqlite3_free(error);
@@ -431,6 +426,7 @@ void SqliteBackend::finish(sqlite3_stmt* stmt, const QString&)
 std::unique_ptr<ResultData> SqliteBackend::query(const QString& sql, const QVariantList& params)
 {
     const auto waited = qScopeGuard([this] { endBusyWait(); });
+    m_statement = sql;
     sqlite3_stmt* stmt = prepare(sql, params);
     auto result = std::make_unique<SqliteResult>(stmt);
     int rc;
@@ -447,6 +443,7 @@ std::unique_ptr<ResultData> SqliteBackend::query(const QString& sql, const QVari
 qint64 SqliteBackend::execute(const QString& sql, const QVariantList& params)
 {
     const auto waited = qScopeGuard([this] { endBusyWait(); });
+    m_statement = sql;
     // A write outside a transaction checks the file here; in one, begin and commit do.
     if (!inTransaction())
         checkFile();

@@ -11,6 +11,8 @@ struct sqlite3_stmt;
 
 namespace qd8 {
 
+class LockWait;
+
 // SQLite through its C library: a statement cache, a busy timeout and the WAL journal (a
 // writer is not blocked by an open reader), and the THAI collation on every connection.
 // The file is remembered by device and inode: once it is deleted, moved or replaced, the
@@ -55,7 +57,8 @@ private:
     dev_t m_device = 0;
     ino_t m_inode = 0;
     QElapsedTimer m_busySince;
-    bool m_busyShown = false;
+    QString m_statement;              // the statement running, for the wait's words
+    std::unique_ptr<LockWait> m_wait;  // while it waits for another writer
     QHash<QString, sqlite3_stmt*> m_cache;
     QHash<QString, QStringList> m_keys;
 };

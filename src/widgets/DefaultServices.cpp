@@ -215,7 +215,8 @@ void QtProgressService::begin(const QString& title, const QString& text, qint64 
 
 bool QtProgressService::step(qint64 done)
 {
-    if (m_running.isEmpty())
+    // A program without widgets (qd8-admin) has nowhere to show it.
+    if (m_running.isEmpty() || !qobject_cast<QApplication*>(QCoreApplication::instance()))
         return true;
     Operation& operation = m_running.last();
     const qint64 elapsed = operation.started.elapsed();
