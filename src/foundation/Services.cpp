@@ -53,4 +53,10 @@ void Services::setDefaults(MessageService* messages, PickerService* picker, Shel
     defaults = {messages, picker, shell, progress};
 }
 
+QString askFileToWrite(const QString& title, const QString& suggested, const QString& suffix, const QString& filter)
+{
+    const QString file = Services::picker().saveFileName(title, suggested, filter);
+    return file.isEmpty() || file.endsWith(suffix, Qt::CaseInsensitive) ? file : file + suffix;
+}
+
 } // namespace qd8

@@ -124,14 +124,15 @@ struct ReportDocument::Private {
     QList<qreal> left, width;  // per column
     QFont body = reportFont(BodySize), bodyBold = reportFont(BodySize, true), small = reportFont(SmallSize);
     QFont company = reportFont(CompanySize, true), title = reportFont(TitleSize, true);
-    qreal line = QFontMetricsF(body).lineSpacing();
+    QFontMetricsF bodyMetrics{body};
+    qreal line = bodyMetrics.lineSpacing();
     qreal headingHeight = 0, columnsHeight = 0, bodyTop = 0, bodyBottom = 0, y = 0;
+    // Advances of the body font's characters, measured once each. The fonts do not kern, so
+    // their sum is a text's width (more for Thai, whose marks take no room beside a letter):
+    // most cells are known to fit without shaping them.
+    mutable std::vector<float> advances = std::vector<float>(0x10000, -1);
 
     void prepareLayout();
-    // Advances of the body font's characters, measured once each: their sum bounds a text's
-    // width from above (kerning only narrows), so most cells need no shaping to know they fit.
-    mutable std::vector<float> advances = std::vector<float>(0x10000, -1);
-    QFontMetricsF bodyMetrics{body};
     qreal advanceSum(const QString& text) const;
     bool surelyFits(const QString& text, qreal textWidth) const;
     int lineCount(const QString& text, qreal textWidth, const QFont& font) const;
@@ -160,8 +161,7 @@ struct ReportDocument::Private {
 
 void ReportDocument::Private::prepareLayout()
 {
-    const QSizeF full = q->pageLayout().fullRect(QPageLayout::Point).size();
-    page = full;
+    page = q->pageLayout().fullRect(QPageLayout::Point).size();
     const qreal printable = page.width() - 2 * Margin;
     qreal units = 0;
     for (const ReportColumn& column : spec.columns)
