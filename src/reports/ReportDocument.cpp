@@ -53,7 +53,7 @@ struct Item {
 
 struct Group {
     QString heading;
-    std::vector<Currency> sums;  // per column of the spec
+    std::vector<Currency> sums;  // per column of the ReportSpec
 };
 
 QFont reportFont(int size, bool bold = false)
@@ -110,7 +110,7 @@ struct ReportDocument::Private {
     QString error;
 
     Cursor cursor;
-    QList<int> cursorColumns;  // per spec column, then the group field and its caption
+    QList<int> cursorColumns;  // per ReportSpec column, then the group field and its caption
     RowStore rows;
     std::vector<Item> items;
     std::vector<qsizetype> pageStarts;  // first item of each page
