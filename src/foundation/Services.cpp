@@ -72,4 +72,10 @@ QString OperationName::current()
     return operationNames.isEmpty() ? QString() : operationNames.last();
 }
 
+QString askFileToWrite(const QString& title, const QString& suggested, const QString& suffix, const QString& filter)
+{
+    const QString file = Services::picker().saveFileName(title, suggested, filter);
+    return file.isEmpty() || file.endsWith(suffix, Qt::CaseInsensitive) ? file : file + suffix;
+}
+
 } // namespace qd8

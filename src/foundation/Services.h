@@ -106,6 +106,10 @@ public:
         ProgressService* progress = nullptr);
 };
 
+// The name of a file to write, asked through the picker service, `suffix` (".pdf") added
+// when the user typed none; "" when cancelled.
+QString askFileToWrite(const QString& title, const QString& suggested, const QString& suffix, const QString& filter);
+
 // One operation on the progress service in force, ended when the scope ends.
 class ProgressScope {
 public:

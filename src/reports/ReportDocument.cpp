@@ -53,7 +53,7 @@ struct Item {
 
 struct Group {
     QString heading;
-    std::vector<Currency> sums;  // per column of the spec
+    std::vector<Currency> sums;  // per column of the ReportSpec
 };
 
 QFont reportFont(int size, bool bold = false)
@@ -64,6 +64,9 @@ QFont reportFont(int size, bool bold = false)
     font.setBold(bold);
     // Unhinted: the advances measured for the layout are the ones printed at any resolution.
     font.setHintingPreference(QFont::PreferNoHinting);
+    // No kerning: a text's width is then the sum of its characters' advances, so figures
+    // line up on the right without shaping each one twice.
+    font.setKerning(false);
     return font;
 }
 
@@ -107,7 +110,7 @@ struct ReportDocument::Private {
     QString error;
 
     Cursor cursor;
-    QList<int> cursorColumns;  // per spec column, then the group field and its caption
+    QList<int> cursorColumns;  // per ReportSpec column, then the group field and its caption
     RowStore rows;
     std::vector<Item> items;
     std::vector<qsizetype> pageStarts;  // first item of each page
@@ -121,10 +124,17 @@ struct ReportDocument::Private {
     QList<qreal> left, width;  // per column
     QFont body = reportFont(BodySize), bodyBold = reportFont(BodySize, true), small = reportFont(SmallSize);
     QFont company = reportFont(CompanySize, true), title = reportFont(TitleSize, true);
-    qreal line = QFontMetricsF(body).lineSpacing();
+    QFontMetricsF bodyMetrics{body};
+    qreal line = bodyMetrics.lineSpacing();
     qreal headingHeight = 0, columnsHeight = 0, bodyTop = 0, bodyBottom = 0, y = 0;
+    // Advances of the body font's characters, measured once each. The fonts do not kern, so
+    // their sum is a text's width (more for Thai, whose marks take no room beside a letter):
+    // most cells are known to fit without shaping them.
+    mutable std::vector<float> advances = std::vector<float>(0x10000, -1);
 
     void prepareLayout();
+    qreal advanceSum(const QString& text) const;
+    bool surelyFits(const QString& text, qreal textWidth) const;
     int lineCount(const QString& text, qreal textWidth, const QFont& font) const;
     qreal textHeight(const QString& text, qreal textWidth, const QFont& font) const
     {
@@ -140,7 +150,9 @@ struct ReportDocument::Private {
     bool step(qint64 budgetMs);
     void fail(const QString& message);
 
-    void drawText(QPainter& p, const QRectF& box, const QString& text, Qt::Alignment align, const QFont& font) const;
+    // `fits`: the text is known to take one line.
+    void drawText(QPainter& p, const QRectF& box, const QString& text, Qt::Alignment align, const QFont& font,
+        bool fits = false) const;
     void drawHeading(QPainter& p, int pageNumber) const;
     void drawItem(QPainter& p, const Item& item) const;
     void drawTotals(QPainter& p, const Item& item, const QString& label, const std::vector<Currency>& sums) const;
@@ -149,8 +161,7 @@ struct ReportDocument::Private {
 
 void ReportDocument::Private::prepareLayout()
 {
-    const QSizeF full = q->pageLayout().fullRect(QPageLayout::Point).size();
-    page = full;
+    page = q->pageLayout().fullRect(QPageLayout::Point).size();
     const qreal printable = page.width() - 2 * Margin;
     qreal units = 0;
     for (const ReportColumn& column : spec.columns)
@@ -174,9 +185,26 @@ void ReportDocument::Private::prepareLayout()
     y = bodyTop;
 }
 
+qreal ReportDocument::Private::advanceSum(const QString& text) const
+{
+    qreal sum = 0;
+    for (QChar c : text) {
+        float& advance = advances[c.unicode()];
+        if (advance < 0)
+            advance = c.isSurrogate() ? 1e6f : float(bodyMetrics.horizontalAdvance(c));
+        sum += advance;
+    }
+    return sum;
+}
+
+bool ReportDocument::Private::surelyFits(const QString& text, qreal textWidth) const
+{
+    return advanceSum(text) <= textWidth - 0.5;
+}
+
 int ReportDocument::Private::lineCount(const QString& text, qreal textWidth, const QFont& font) const
 {
-    if (text.isEmpty() || QFontMetricsF(font).horizontalAdvance(text) <= textWidth)
+    if (text.isEmpty() || (font == body && surelyFits(text, textWidth)) || QFontMetricsF(font).horizontalAdvance(text) <= textWidth)
         return 1;
     // Qt breaks Thai between words (libthai), other scripts at blanks.
     QTextLayout layout(text, font);
@@ -348,9 +376,23 @@ bool ReportDocument::Private::step(qint64 budgetMs)
 }
 
 void ReportDocument::Private::drawText(QPainter& p, const QRectF& box, const QString& text, Qt::Alignment align,
-    const QFont& font) const
+    const QFont& font, bool fits) const
 {
-    p.setFont(font);
+    if (text.isEmpty())
+        return;
+    if (p.font() != font)
+        p.setFont(font);
+    if (fits) {
+        // Drawn at its baseline: no line breaking to work out for a text known to fit.
+        qreal x = box.left();
+        if (!(align & Qt::AlignLeft)) {
+            const bool plain = font == body && std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 0x80; });
+            const qreal w = plain ? advanceSum(text) : QFontMetricsF(font).horizontalAdvance(text);
+            x = align & Qt::AlignRight ? box.right() - w : box.left() + (box.width() - w) / 2;
+        }
+        p.drawText(QPointF(x, box.top() + QFontMetricsF(font).ascent()), text);
+        return;
+    }
     if (QFontMetricsF(font).horizontalAdvance(text) <= box.width()) {
         p.drawText(box, int(align | Qt::AlignTop | Qt::TextSingleLine), text);
         return;
@@ -421,12 +463,16 @@ void ReportDocument::Private::drawTotals(QPainter& p, const Item& item, const QS
 void ReportDocument::Private::drawItem(QPainter& p, const Item& item) const
 {
     switch (item.kind) {
-    case ItemKind::Row:
+    case ItemKind::Row: {
+        // A row laid out on one line has every cell on one line.
+        const bool oneLine = item.height < 1.5 * line;
         for (int c = 0; c < spec.columns.size(); ++c) {
             const QRectF box(left[c] + Padding, item.y, width[c] - 2 * Padding, item.height);
-            drawText(p, box, cellText(item.index, c), alignmentOf(spec.columns[c].kind), body);
+            const ReportColumn::Kind kind = spec.columns[c].kind;
+            drawText(p, box, cellText(item.index, c), alignmentOf(kind), body, oneLine || kind != Kind::Text);
         }
         return;
+    }
     case ItemKind::GroupHeading:
         drawText(p, QRectF(Margin + Padding, item.y + Padding, page.width() - 2 * Margin - 2 * Padding, item.height),
             groups[item.index].heading, Qt::AlignLeft, bodyBold);

@@ -190,11 +190,9 @@ bool ReportPreview::Private::writeFile(const QString& title, const QString& suff
     if (writing)
         return false;
     const QString suggested = QDir::home().filePath(document->spec().title + suffix);
-    QString file = Services::picker().saveFileName(title, suggested, filter);
+    const QString file = askFileToWrite(title, suggested, suffix, filter);
     if (file.isEmpty())
         return false;
-    if (!file.endsWith(suffix, Qt::CaseInsensitive))
-        file += suffix;
     const QPointer<ReportPreview> self(q);
     if (!document->readAll() || !self)
         return false;

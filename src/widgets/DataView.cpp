@@ -199,12 +199,15 @@ void DataView::Private::buildExport(QHBoxLayout* strip)
     QObject::connect(exportXlsx, &QAction::triggered, q, [this] { q->exportAs(TableExport::Format::Xlsx); });
     QObject::connect(exportCsv, &QAction::triggered, q, [this] { q->exportAs(TableExport::Format::Csv); });
     strip->addWidget(exportButton);
+    nameExport();
 }
 
 void DataView::Private::nameExport()
 {
     exportButton->setText(inLanguage(languageId, "ส่งออก", "Export"));
     exportButton->setAccessibleName(exportButton->text());
+    if (QMenu* menu = exportButton->menu())
+        menu->setAccessibleName(exportButton->text());
     exportXlsx->setText(inLanguage(languageId, "ส่งออกเป็น Excel (XLSX)", "Export to Excel (XLSX)"));
     exportCsv->setText(inLanguage(languageId, "ส่งออกเป็น CSV", "Export to CSV"));
     exportButton->setToolTip(exportXlsx->text() + QStringLiteral(" (") + exportXlsx->shortcut().toString(QKeySequence::NativeText) + QLatin1Char(')'));
@@ -635,13 +638,9 @@ bool DataView::exportAs(TableExport::Format format)
     QString name = window()->windowTitle().trimmed();
     if (name.isEmpty())
         name = accessibleName();
-    QString file = Services::picker().saveFileName(title, QDir::home().filePath(name + suffix),
+    const QString file = askFileToWrite(title, QDir::home().filePath(name + suffix), suffix,
         csv ? QStringLiteral("CSV (*.csv)") : QStringLiteral("Excel (*.xlsx)"));
-    if (file.isEmpty())
-        return false;
-    if (!file.endsWith(suffix, Qt::CaseInsensitive))
-        file += suffix;
-    return exportRows(file);
+    return !file.isEmpty() && exportRows(file);
 }
 
 void DataView::setButtonVisible(Button button, bool visible)
