@@ -18,7 +18,7 @@ struct ReportLayout {
 
     // Nothing when the command has no layout in use.
     static std::optional<ReportLayout> read(const QString& commandAlias, const QString& appConnectionString, int languageId);
-    // The spec for a statement with the criteria: the statement ordered, the heading given.
+    // The ReportSpec of a statement with the criteria: the statement ordered, the heading given.
     ReportSpec specFor(const QString& statement, const QString& title, const QString& company, const QString& criteria) const;
     static ReportColumn::Kind kindOf(const QString& word);
 };
