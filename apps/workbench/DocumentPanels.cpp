@@ -25,14 +25,14 @@ namespace {
 // The stock documents carry the job choice in these columns.
 const QString JobTable = QStringLiteral("QD8TInventory");
 
-void hand(HostedControl& to, const HostedControl& form)
+} // namespace
+
+void shareSession(HostedControl& to, const HostedControl& form)
 {
     to.SetLast2(QString(), to.objectName(), QString::number(form.UserID()), form.DataConnectionString(), form.AppConnectionString());
     to.SetFirst(form.sharedDataObject(), form.sharedAppObject(), form.sharedClientObject());
     to.setUserLoginName(form.UserLoginName());
 }
-
-} // namespace
 
 DocumentPanels::DocumentPanels(const DocumentDefinition& definition, HostedControl* form)
     : QTabWidget(form)
@@ -92,12 +92,12 @@ void DocumentPanels::retranslate()
 void DocumentPanels::attach()
 {
     if (m_selector && (m_selector->ConnectionString() != m_form->DataConnectionString() || m_selector->LanguageID() != m_form->LanguageID())) {
-        hand(*m_selector, *m_form);
+        shareSession(*m_selector, *m_form);
         m_selector->SetFirst2(m_form->DataConnectionString(), m_form->UserID());
-        hand(*m_jobDetail, *m_form);
+        shareSession(*m_jobDetail, *m_form);
     }
     if (m_status->DataConnectionString() != m_form->DataConnectionString() || m_status->LanguageID() != m_form->LanguageID())
-        hand(*m_status, *m_form);
+        shareSession(*m_status, *m_form);
     retranslate();
 }
 

@@ -14,6 +14,9 @@ class HostedControl;
 class JobSelector;
 struct DocumentDefinition;
 
+// Hands `form`'s session (connections, user, language, session objects) to a control it hosts.
+void shareSession(HostedControl& to, const HostedControl& form);
+
 // The panes beside a document form's fields: its history (the header's state and every
 // event QD8TDocHistory holds, with the workflow buttons Confirm, Approve, Reject and
 // Cancel that write both), and on a stock document the job selector with the job,

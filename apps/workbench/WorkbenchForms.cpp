@@ -1,6 +1,7 @@
 #include "WorkbenchForms.h"
 
 #include "DocumentForm.h"
+#include "ListDetailPane.h"
 #include "MemoForms.h"
 #include "ReportSearchForm.h"
 #include "ReportWindow.h"
@@ -229,8 +230,15 @@ void registerWorkbenchForms()
             QStringLiteral("รหัส,ชื่อเข้าระบบ,ชื่อผู้ใช้,พนักงาน"), QStringLiteral("ID,Login,Name,Employee"), QStringLiteral("QD8TUser"),
             QStringLiteral("TUsrFlag1=1"), QStringLiteral("TUsrID"), QStringLiteral("TUsrLoginName,TUsrName,TUsrName2"), false});
     // The lists of the document and master-data commands, by their definitions.
-    for (const char* alias : {"GLJV", "PURPR", "PUPO", "SOORDER", "ARINVOICE", "ICISSUEUSE"})
-        FormRegistry::registerForm(QString::fromLatin1(alias), [](QWidget* parent) { return new DucumentList(parent); });
+    // Jobs, production orders and purchase requests show the selected line beside the rows.
+    for (const char* alias : {"GLJV", "PURPR", "PUPO", "SOORDER", "ARINVOICE", "ICISSUEUSE", "ICJOB", "ICJOBPRODUCTION"}) {
+        const QString command = QString::fromLatin1(alias);
+        FormRegistry::registerForm(command, [command](QWidget* parent) {
+            auto* list = new DucumentList(parent);
+            ListDetailPane::attach(*list, command);
+            return list;
+        });
+    }
     for (const char* alias : {"ARCUSTOMER", "ICPRODUCT", "APVENDOR"})
         FormRegistry::registerForm(QString::fromLatin1(alias), [](QWidget* parent) { return new MasterList(parent); });
     // The document and master forms the lists open; the general journal's is the voucher form.
