@@ -147,6 +147,16 @@ DiagramLauncher::DiagramLauncher(QWidget* parent)
 
 DiagramLauncher::~DiagramLauncher() = default;
 
+void DiagramLauncher::Refresh(qint16 LanguageID, const QString& AppConnectionString, const QString& CustomConnectionString)
+{
+    setLanguage(LanguageID);
+    if (!AppConnectionString.isEmpty())
+        setAppConnectionString(AppConnectionString);
+    if (!CustomConnectionString.isEmpty())
+        m_custom = CustomConnectionString;
+    Refresh();
+}
+
 void DiagramLauncher::setLanguage(qint16 languageId)
 {
     mutableSession().LanguageID = languageId;

@@ -36,6 +36,15 @@ public:
     // Moves the focus to the nearest tile in the direction of an arrow key; false when none lies that way.
     bool moveFocus(int key);
 
+    // The company's own diagram database; a diagram without a drawing reads nothing from it.
+    QString CustomConnectionString() const { return m_custom; }
+    void setCustomConnectionString(const QString& value) { m_custom = value; }
+    using CommandLauncher::Refresh;
+
+public Q_SLOTS:
+    // Refresh with the language and databases given; "" keeps a database as it is.
+    void Refresh(qint16 LanguageID, const QString& AppConnectionString, const QString& CustomConnectionString);
+
 protected:
     struct Section {
         QString heading;
@@ -67,6 +76,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    QString m_custom;
     qreal flowSections(qreal top, qreal width);
     void restoreFocus();
 

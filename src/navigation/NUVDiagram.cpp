@@ -37,16 +37,6 @@ void NUVDiagram::SetLanguageID(qint16 LID)
     setLanguage(LID);
 }
 
-void NUVDiagram::Refresh(qint16 LanguageID, const QString& AppConnectionString, const QString& CustomConnectionString)
-{
-    setLanguage(LanguageID);
-    if (!AppConnectionString.isEmpty())
-        setAppConnectionString(AppConnectionString);
-    if (!CustomConnectionString.isEmpty())
-        m_custom = CustomConnectionString;
-    Refresh();
-}
-
 void NUVDiagram::Refresh()
 {
     deriveCommandCentre();
@@ -66,7 +56,7 @@ void NUVDiagram::Refresh()
     QList<QPair<QString, QString>> arrows;
     QString background;
     QSizeF size;
-    for (const QString& source : {m_custom, AppConnectionString()}) {
+    for (const QString& source : {CustomConnectionString(), AppConnectionString()}) {
         if (source.isEmpty())
             continue;
         try {

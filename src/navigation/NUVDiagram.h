@@ -19,10 +19,6 @@ class NUVDiagram : public DiagramLauncher {
 public:
     explicit NUVDiagram(QWidget* parent = nullptr);
 
-    // The database of the company's own drawings: when it holds a QD8TDiagram row for the
-    // module, its drawing, steps and arrows replace the application database's.
-    QString CustomConnectionString() const { return m_custom; }
-    void setCustomConnectionString(const QString& value) { m_custom = value; }
     // The diagram's title in the session language, "" when the module has no drawing.
     QString title() const { return m_title; }
     // Whether the module has a drawing (a QD8TDiagram row in use) in either database.
@@ -31,15 +27,13 @@ public:
     static Sql diagramSql(const QString& commandGroup);
     static Sql itemsSql(const QString& commandGroup);
     static Sql arrowsSql(const QString& commandGroup);
+    using DiagramLauncher::Refresh;
 
 public Q_SLOTS:
     void SetLanguageID(qint16 LID);
-    // Refresh with the language and databases given; "" keeps a database as it is.
-    void Refresh(qint16 LanguageID, const QString& AppConnectionString, const QString& CustomConnectionString);
     void Refresh() override;
 
 private:
-    QString m_custom;
     QString m_title;
     bool m_drawn = false;
 };

@@ -26,16 +26,6 @@ NUVDiagram2::NUVDiagram2(QWidget* parent)
 {
 }
 
-void NUVDiagram2::Refresh(qint16 LanguageID, const QString& AppConnectionString, const QString& CustomConnectionString)
-{
-    setLanguage(LanguageID);
-    if (!AppConnectionString.isEmpty())
-        setAppConnectionString(AppConnectionString);
-    if (!CustomConnectionString.isEmpty())
-        m_custom = CustomConnectionString;
-    Refresh();
-}
-
 void NUVDiagram2::Refresh()
 {
     deriveCommandCentre();

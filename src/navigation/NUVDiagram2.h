@@ -13,19 +13,10 @@ class NUVDiagram2 : public DiagramLauncher {
 
 public:
     explicit NUVDiagram2(QWidget* parent = nullptr);
-
-    // Kept for hosts that drive both diagrams alike; a diagram without a drawing reads
-    // nothing from the company's drawing database.
-    QString CustomConnectionString() const { return m_custom; }
-    void setCustomConnectionString(const QString& value) { m_custom = value; }
+    using DiagramLauncher::Refresh;
 
 public Q_SLOTS:
-    // Refresh with the language and application database given; "" keeps the database.
-    void Refresh(qint16 LanguageID, const QString& AppConnectionString, const QString& CustomConnectionString);
     void Refresh() override;
-
-private:
-    QString m_custom;
 };
 
 } // namespace qd8

@@ -27,16 +27,6 @@ Sql NUVDiagramIndex::modulesSql()
     return Sql("SELECT * FROM QD8TCommandGroup WHERE TCmGShow=1 AND TCmGFlag1=1 ORDER BY TCmGSort");
 }
 
-void NUVDiagramIndex::Refresh(qint16 LanguageID, const QString& AppConnectionString, const QString& CustomConnectionString)
-{
-    setLanguage(LanguageID);
-    if (!AppConnectionString.isEmpty())
-        setAppConnectionString(AppConnectionString);
-    if (!CustomConnectionString.isEmpty())
-        m_custom = CustomConnectionString;
-    Refresh();
-}
-
 void NUVDiagramIndex::Refresh()
 {
     deriveCommandCentre();
@@ -106,12 +96,12 @@ void NUVDiagramIndex::showModule(const QString& commandGroup)
         d->setCommandGroup(commandGroup);
     };
     hand(drawn);
-    drawn->Refresh(LanguageID(), AppConnectionString(), m_custom);
+    drawn->Refresh(LanguageID(), AppConnectionString(), CustomConnectionString());
     if (!drawn->hasDrawing()) {
         delete drawn;
         auto* laidOut = new NUVDiagram2(this);
         hand(laidOut);
-        laidOut->Refresh(LanguageID(), AppConnectionString(), m_custom);
+        laidOut->Refresh(LanguageID(), AppConnectionString(), CustomConnectionString());
         diagram = laidOut;
     }
     connect(diagram, &CommandLauncher::Lunch, this, [this](QString& alias) { Q_EMIT Lunch(alias); });

@@ -20,13 +20,11 @@ public:
 
     // The diagram open in place of the index, nullptr while the index shows.
     DiagramLauncher* openDiagram() const { return m_diagram; }
-    QString CustomConnectionString() const { return m_custom; }
-    void setCustomConnectionString(const QString& value) { m_custom = value; }
 
     static Sql modulesSql();
+    using DiagramLauncher::Refresh;
 
 public Q_SLOTS:
-    void Refresh(qint16 LanguageID, const QString& AppConnectionString, const QString& CustomConnectionString);
     void Refresh() override;
     // Opens a module's diagram, as its tile does.
     void showModule(const QString& commandGroup);
@@ -44,7 +42,6 @@ protected:
 private:
     void dropDiagram();
 
-    QString m_custom;
     QPointer<DiagramLauncher> m_diagram;
 };
 
