@@ -54,9 +54,9 @@ void fill(const BenchDatabase& db)
     c.execute("ANALYZE");
 }
 
-ReportSpec spec()
+ReportDefinition definition()
 {
-    ReportSpec s;
+    ReportDefinition s;
     s.title = QStringLiteral("ใบแจ้งหนี้ตามลูกค้า");
     s.company = QStringLiteral("บริษัท ตัวอย่าง จำกัด");
     s.criteria = QStringLiteral("วันที่ 01/01/2569 ถึง 31/12/2569");
@@ -74,7 +74,7 @@ void toFile(benchmark::State& state, const BenchDatabase* db, bool pdf)
 {
     const QString file = outputFolder().filePath(pdf ? QStringLiteral("report.pdf") : QStringLiteral("report.xlsx"));
     for (auto _ : state) {
-        ReportDocument report(spec());
+        ReportDocument report(definition());
         report.open(db->connectionString());
         const bool written = report.readAll() && (pdf ? report.writePdf(file) : report.exportTable(file));
         if (!written || report.rowCount() != Rows)
@@ -119,7 +119,7 @@ QString firstPage(const EngineRun& run)
     for (int i = 0; i < 5; ++i) {
         QElapsedTimer clock;
         clock.start();
-        ReportDocument report(spec());
+        ReportDocument report(definition());
         report.open(run.db->connectionString());
         while (report.finishedPages() < 1 && report.readMore(500)) {
         }

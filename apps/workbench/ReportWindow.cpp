@@ -77,7 +77,7 @@ void ReportWindow::preview(const QString& criteria)
 {
     // The layout's query in the language read last ("{N}"), with the filter's condition.
     const QString statement = m_filter->criteria().statement(m_layout->tableQuery).text();
-    m_lastReport = m_layout->specFor(statement, title(), WorkbenchSession::companyNameOf(DataConnectionString()), criteria);
+    m_lastReport = m_layout->definitionFor(statement, title(), WorkbenchSession::companyNameOf(DataConnectionString()), criteria);
     m_preview = new ReportPreview(m_lastReport, DataConnectionString(), this);
     m_preview->setAttribute(Qt::WA_DeleteOnClose);
     m_preview->show();

@@ -25,7 +25,7 @@ public:
 
     ReportFilter* filter() const { return m_filter; }
     // The report the last preview showed, and its window while it is open.
-    const ReportSpec& lastReport() const { return m_lastReport; }
+    const ReportDefinition& lastReport() const { return m_lastReport; }
     ReportPreview* preview() const { return m_preview; }
 
 public Q_SLOTS:
@@ -41,7 +41,7 @@ private:
     ReportFilter* m_filter = nullptr;
     QLabel* m_missing = nullptr;
     std::optional<ReportLayout> m_layout;
-    ReportSpec m_lastReport;
+    ReportDefinition m_lastReport;
     QPointer<ReportPreview> m_preview;
 };
 

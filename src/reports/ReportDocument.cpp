@@ -53,7 +53,7 @@ struct Item {
 
 struct Group {
     QString heading;
-    std::vector<Currency> sums;  // per column of the ReportSpec
+    std::vector<Currency> sums;  // per column of the ReportDefinition
 };
 
 QFont reportFont(int size, bool bold = false)
@@ -103,14 +103,14 @@ TableExport::Type exportType(Kind kind)
 
 struct ReportDocument::Private {
     ReportDocument* q;
-    ReportSpec spec;
+    ReportDefinition definition;
     DateEra era;
     QString printed;
     State state = State::Idle;
     QString error;
 
     Cursor cursor;
-    QList<int> cursorColumns;  // per ReportSpec column, then the group field and its caption
+    QList<int> cursorColumns;  // per ReportDefinition column, then the group field and its caption
     RowStore rows;
     std::vector<Item> items;
     std::vector<qsizetype> pageStarts;  // first item of each page
@@ -164,21 +164,21 @@ void ReportDocument::Private::prepareLayout()
     page = q->pageLayout().fullRect(QPageLayout::Point).size();
     const qreal printable = page.width() - 2 * Margin;
     qreal units = 0;
-    for (const ReportColumn& column : spec.columns)
+    for (const ReportColumn& column : definition.columns)
         units += qMax(column.width, 1);
     qreal x = Margin;
-    for (const ReportColumn& column : spec.columns) {
+    for (const ReportColumn& column : definition.columns) {
         const qreal w = printable * qMax(column.width, 1) / qMax<qreal>(units, 1);
         left << x;
         width << w;
         x += w;
     }
     headingHeight = QFontMetricsF(company).lineSpacing() + QFontMetricsF(title).lineSpacing();
-    if (!spec.criteria.isEmpty())
-        headingHeight += textHeight(spec.criteria, printable, body);
+    if (!definition.criteria.isEmpty())
+        headingHeight += textHeight(definition.criteria, printable, body);
     qreal captions = line;
-    for (int c = 0; c < spec.columns.size(); ++c)
-        captions = qMax(captions, textHeight(spec.columns[c].caption, width[c] - 2 * Padding, bodyBold));
+    for (int c = 0; c < definition.columns.size(); ++c)
+        captions = qMax(captions, textHeight(definition.columns[c].caption, width[c] - 2 * Padding, bodyBold));
     columnsHeight = captions + 2 * Padding;
     bodyTop = Margin + headingHeight + HeadingGap + columnsHeight;
     bodyBottom = page.height() - Margin - QFontMetricsF(small).lineSpacing() - HeadingGap;
@@ -235,7 +235,7 @@ void ReportDocument::Private::storeRow(qsizetype cursorRow)
     qreal height = line;
     for (int c = 0; c < cursorColumns.size(); ++c) {
         const QVariant v = cursor.value(cursorRow, cursorColumns[c]);
-        const Kind kind = c < spec.columns.size() ? spec.columns[c].kind : Kind::Text;
+        const Kind kind = c < definition.columns.size() ? definition.columns[c].kind : Kind::Text;
         if (v.isNull()) {
             rows.addNull();
             continue;
@@ -257,7 +257,7 @@ void ReportDocument::Private::storeRow(qsizetype cursorRow)
             const QString s = text(v);
             const QByteArray utf8 = s.toUtf8();
             rows.addText(utf8.constData(), utf8.size());
-            if (c < spec.columns.size())
+            if (c < definition.columns.size())
                 height = qMax(height, lineCount(s, width[c] - 2 * Padding, body) * line);
             break;
         }
@@ -265,25 +265,25 @@ void ReportDocument::Private::storeRow(qsizetype cursorRow)
     }
     rows.endRow();
 
-    if (!spec.groupField.isEmpty()) {
-        const int keyColumn = int(spec.columns.size());
+    if (!definition.groupField.isEmpty()) {
+        const int keyColumn = int(definition.columns.size());
         const QString key = cellText(row, keyColumn);
         if (groups.empty() || key != groupKey) {
             closeGroup();
             groupKey = key;
             QString heading = key;
-            if (!spec.groupCaptionField.isEmpty())
+            if (!definition.groupCaptionField.isEmpty())
                 heading += QStringLiteral("  ") + cellText(row, keyColumn + 1);
-            groups.push_back({heading, std::vector<Currency>(spec.columns.size())});
+            groups.push_back({heading, std::vector<Currency>(definition.columns.size())});
             const qreal h = textHeight(heading, page.width() - 2 * Margin, bodyBold) + Padding;
             add(ItemKind::GroupHeading, qint32(groups.size() - 1), h, height);
         }
     }
-    for (int c = 0; c < spec.columns.size(); ++c) {
-        if (!spec.columns[c].total)
+    for (int c = 0; c < definition.columns.size(); ++c) {
+        if (!definition.columns[c].total)
             continue;
         const RowStore::Cell cell = rows.cell(row, c);
-        const Currency amount = spec.columns[c].kind == Kind::Integer ? Currency::fromInt(cell.integer) : Currency::fromRaw(cell.integer);
+        const Currency amount = definition.columns[c].kind == Kind::Integer ? Currency::fromInt(cell.integer) : Currency::fromRaw(cell.integer);
         grandTotal[c] += amount;
         if (!groups.empty())
             groups.back().sums[c] += amount;
@@ -298,7 +298,7 @@ QVariant ReportDocument::Private::cellValue(qsizetype row, int column) const
         return {};
     if (cell.type == RowStore::Type::Text)
         return QString::fromUtf8(cell.data, cell.size);
-    switch (spec.columns[column].kind) {
+    switch (definition.columns[column].kind) {
     case Kind::Integer:
         return cell.integer;
     case Kind::Quantity:
@@ -324,7 +324,7 @@ QString ReportDocument::Private::cellText(qsizetype row, int column) const
         return {};
     if (cell.type == RowStore::Type::Text)
         return QString::fromUtf8(cell.data, cell.size);
-    const Kind kind = spec.columns[column].kind;
+    const Kind kind = definition.columns[column].kind;
     if (kind == Kind::Date)
         return dateText(QDate::fromJulianDay(cell.integer), era);
     return amountText(kind == Kind::Integer ? Currency::fromInt(cell.integer) : Currency::fromRaw(cell.integer), kind);
@@ -338,9 +338,9 @@ void ReportDocument::Private::closeGroup()
 
 void ReportDocument::Private::finish()
 {
-    if (!spec.groupField.isEmpty())
+    if (!definition.groupField.isEmpty())
         closeGroup();
-    if (std::any_of(spec.columns.cbegin(), spec.columns.cend(), [](const ReportColumn& c) { return c.total; }))
+    if (std::any_of(definition.columns.cbegin(), definition.columns.cend(), [](const ReportColumn& c) { return c.total; }))
         add(ItemKind::GrandTotal, 0, line + 2 * Padding);
     if (pageStarts.empty())
         pageStarts.push_back(0);  // a report without rows still has its heading page
@@ -415,8 +415,8 @@ void ReportDocument::Private::drawText(QPainter& p, const QRectF& box, const QSt
 QString ReportDocument::Private::pageText(int pageNumber) const
 {
     if (state != State::Complete)
-        return inLanguage(spec.languageId, "หน้า %1", "Page %1").arg(pageNumber);
-    return inLanguage(spec.languageId, "หน้า %1 / %2", "Page %1 of %2").arg(pageNumber).arg(pageStarts.size());
+        return inLanguage(definition.languageId, "หน้า %1", "Page %1").arg(pageNumber);
+    return inLanguage(definition.languageId, "หน้า %1 / %2", "Page %1 of %2").arg(pageNumber).arg(pageStarts.size());
 }
 
 void ReportDocument::Private::drawHeading(QPainter& p, int pageNumber) const
@@ -424,19 +424,19 @@ void ReportDocument::Private::drawHeading(QPainter& p, int pageNumber) const
     const qreal printable = page.width() - 2 * Margin;
     qreal top = Margin;
     const qreal companyLine = QFontMetricsF(company).lineSpacing();
-    drawText(p, QRectF(Margin, top, printable, companyLine), spec.company, Qt::AlignLeft, company);
+    drawText(p, QRectF(Margin, top, printable, companyLine), definition.company, Qt::AlignLeft, company);
     drawText(p, QRectF(Margin, top, printable, companyLine), printed, Qt::AlignRight, small);
     top += companyLine;
-    drawText(p, QRectF(Margin, top, printable, QFontMetricsF(title).lineSpacing()), spec.title, Qt::AlignLeft, title);
+    drawText(p, QRectF(Margin, top, printable, QFontMetricsF(title).lineSpacing()), definition.title, Qt::AlignLeft, title);
     top += QFontMetricsF(title).lineSpacing();
-    if (!spec.criteria.isEmpty())
-        drawText(p, QRectF(Margin, top, printable, bodyTop), spec.criteria, Qt::AlignLeft, body);
+    if (!definition.criteria.isEmpty())
+        drawText(p, QRectF(Margin, top, printable, bodyTop), definition.criteria, Qt::AlignLeft, body);
 
     const qreal captionsTop = bodyTop - columnsHeight;
     p.drawLine(QPointF(Margin, captionsTop), QPointF(page.width() - Margin, captionsTop));
-    for (int c = 0; c < spec.columns.size(); ++c) {
+    for (int c = 0; c < definition.columns.size(); ++c) {
         const QRectF box(left[c] + Padding, captionsTop + Padding, width[c] - 2 * Padding, columnsHeight);
-        drawText(p, box, spec.columns[c].caption, alignmentOf(spec.columns[c].kind), bodyBold);
+        drawText(p, box, definition.columns[c].caption, alignmentOf(definition.columns[c].kind), bodyBold);
     }
     p.drawLine(QPointF(Margin, bodyTop), QPointF(page.width() - Margin, bodyTop));
 
@@ -446,17 +446,17 @@ void ReportDocument::Private::drawHeading(QPainter& p, int pageNumber) const
 
 void ReportDocument::Private::drawTotals(QPainter& p, const Item& item, const QString& label, const std::vector<Currency>& sums) const
 {
-    int firstTotal = int(spec.columns.size());
-    for (int c = 0; c < spec.columns.size(); ++c) {
-        if (spec.columns[c].total) {
+    int firstTotal = int(definition.columns.size());
+    for (int c = 0; c < definition.columns.size(); ++c) {
+        if (definition.columns[c].total) {
             firstTotal = qMin(firstTotal, c);
             const QRectF box(left[c] + Padding, item.y + Padding, width[c] - 2 * Padding, line);
-            drawText(p, box, amountText(sums[c], spec.columns[c].kind), Qt::AlignRight, bodyBold);
+            drawText(p, box, amountText(sums[c], definition.columns[c].kind), Qt::AlignRight, bodyBold);
             p.drawLine(QPointF(left[c] + Padding, item.y + 1), QPointF(left[c] + width[c] - Padding, item.y + 1));
         }
     }
     // The label takes the columns before the first total.
-    const qreal labelWidth = (firstTotal < spec.columns.size() ? left[firstTotal] : page.width() - Margin) - Margin - 2 * Padding;
+    const qreal labelWidth = (firstTotal < definition.columns.size() ? left[firstTotal] : page.width() - Margin) - Margin - 2 * Padding;
     drawText(p, QRectF(Margin + Padding, item.y + Padding, qMax<qreal>(labelWidth, 0), line), label, Qt::AlignLeft, bodyBold);
 }
 
@@ -466,9 +466,9 @@ void ReportDocument::Private::drawItem(QPainter& p, const Item& item) const
     case ItemKind::Row: {
         // A row laid out on one line has every cell on one line.
         const bool oneLine = item.height < 1.5 * line;
-        for (int c = 0; c < spec.columns.size(); ++c) {
+        for (int c = 0; c < definition.columns.size(); ++c) {
             const QRectF box(left[c] + Padding, item.y, width[c] - 2 * Padding, item.height);
-            const ReportColumn::Kind kind = spec.columns[c].kind;
+            const ReportColumn::Kind kind = definition.columns[c].kind;
             drawText(p, box, cellText(item.index, c), alignmentOf(kind), body, oneLine || kind != Kind::Text);
         }
         return;
@@ -479,58 +479,58 @@ void ReportDocument::Private::drawItem(QPainter& p, const Item& item) const
         return;
     case ItemKind::Subtotal: {
         const Group& group = groups[item.index];
-        drawTotals(p, item, inLanguage(spec.languageId, "รวม %1", "Total %1").arg(group.heading), group.sums);
+        drawTotals(p, item, inLanguage(definition.languageId, "รวม %1", "Total %1").arg(group.heading), group.sums);
         return;
     }
     case ItemKind::GrandTotal:
-        drawTotals(p, item, inLanguage(spec.languageId, "รวมทั้งสิ้น", "Grand total"), grandTotal);
+        drawTotals(p, item, inLanguage(definition.languageId, "รวมทั้งสิ้น", "Grand total"), grandTotal);
         return;
     }
 }
 
-ReportDocument::ReportDocument(const ReportSpec& spec, QObject* parent)
+ReportDocument::ReportDocument(const ReportDefinition& definition, QObject* parent)
     : QObject(parent)
     , d(std::make_unique<Private>())
 {
     d->q = this;
-    d->spec = spec;
-    d->era = DateLook::forLanguage(spec.languageId).era;
-    d->printed = inLanguage(spec.languageId, "พิมพ์เมื่อ %1", "Printed %1")
+    d->definition = definition;
+    d->era = DateLook::forLanguage(definition.languageId).era;
+    d->printed = inLanguage(definition.languageId, "พิมพ์เมื่อ %1", "Printed %1")
                      .arg(dateTimeText(QDateTime::currentDateTime(), d->era));
-    d->grandTotal.resize(spec.columns.size());
+    d->grandTotal.resize(definition.columns.size());
     d->prepareLayout();
 }
 
 ReportDocument::~ReportDocument() = default;
 
-const ReportSpec& ReportDocument::spec() const
+const ReportDefinition& ReportDocument::definition() const
 {
-    return d->spec;
+    return d->definition;
 }
 
 QPageLayout ReportDocument::pageLayout() const
 {
-    return QPageLayout(QPageSize(QPageSize::A4), d->spec.landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
+    return QPageLayout(QPageSize(QPageSize::A4), d->definition.landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
         QMarginsF(), QPageLayout::Point);
 }
 
 void ReportDocument::open(const QString& connectionString)
 {
-    d->cursor.open(Sql(d->spec.sql), connectionString, BatchRows);
+    d->cursor.open(Sql(d->definition.sql), connectionString, BatchRows);
     QStringList fields;
-    for (const ReportColumn& column : d->spec.columns)
+    for (const ReportColumn& column : d->definition.columns)
         fields << column.field;
-    if (!d->spec.groupField.isEmpty())
-        fields << d->spec.groupField;
-    if (!d->spec.groupCaptionField.isEmpty())
-        fields << d->spec.groupCaptionField;
+    if (!d->definition.groupField.isEmpty())
+        fields << d->definition.groupField;
+    if (!d->definition.groupCaptionField.isEmpty())
+        fields << d->definition.groupCaptionField;
     d->cursorColumns.clear();
     for (const QString& field : fields) {
         const int column = d->cursor.columnIndex(field);
         if (column < 0) {
             d->cursor.close();
             const QString english = QStringLiteral("The report has no column %1").arg(field);
-            throw DbError(DbError::Kind::Usage, english, d->spec.sql).explain(QStringLiteral("รายงานไม่มีคอลัมน์ %1").arg(field), english);
+            throw DbError(DbError::Kind::Usage, english, d->definition.sql).explain(QStringLiteral("รายงานไม่มีคอลัมน์ %1").arg(field), english);
         }
         d->cursorColumns << column;
     }
@@ -553,7 +553,7 @@ bool ReportDocument::readMore(qsizetype rows)
         if (d->cursor.atEnd())
             d->finish();
     } catch (const DbError& e) {
-        d->fail(e.report(d->spec.languageId));
+        d->fail(e.report(d->definition.languageId));
         return false;
     }
     return d->state == State::Reading;
@@ -564,7 +564,7 @@ void ReportDocument::start(const QString& connectionString)
     try {
         open(connectionString);
     } catch (const DbError& e) {
-        d->fail(e.report(d->spec.languageId));
+        d->fail(e.report(d->definition.languageId));
         return;
     }
     // Each step re-arms itself through the event loop until the reading ends.
@@ -670,14 +670,14 @@ bool ReportDocument::writePdf(const QString& fileName, const std::function<bool(
     if (file.open(QIODevice::WriteOnly)) {
         QPdfWriter writer(&file);
         writer.setPageLayout(pageLayout());
-        writer.setTitle(d->spec.title);
+        writer.setTitle(d->definition.title);
         writer.setCreator(QStringLiteral("QD8Designer2"));
         written = paint(writer, step);
     }
     if (written && file.commit())
         return true;
     if (file.error() != QFileDevice::NoError)
-        d->error = inLanguage(d->spec.languageId, "บันทึกแฟ้ม %1 ไม่ได้: %2", "Could not write %1: %2").arg(fileName, file.errorString());
+        d->error = inLanguage(d->definition.languageId, "บันทึกแฟ้ม %1 ไม่ได้: %2", "Could not write %1: %2").arg(fileName, file.errorString());
     file.cancelWriting();
     return false;
 }
@@ -685,21 +685,21 @@ bool ReportDocument::writePdf(const QString& fileName, const std::function<bool(
 bool ReportDocument::exportTable(const QString& fileName, const std::function<bool(qsizetype lines)>& step)
 {
     QList<TableExport::Column> columns;
-    for (const ReportColumn& column : d->spec.columns)
+    for (const ReportColumn& column : d->definition.columns)
         columns.append({column.caption, exportType(column.kind), column.width});
-    QStringList heading{d->spec.title, d->spec.company};
-    if (!d->spec.criteria.isEmpty())
-        heading << d->spec.criteria;
+    QStringList heading{d->definition.title, d->definition.company};
+    if (!d->definition.criteria.isEmpty())
+        heading << d->definition.criteria;
     heading << d->printed;
-    TableExport out(fileName, columns, d->spec.languageId, heading);
+    TableExport out(fileName, columns, d->definition.languageId, heading);
 
     const auto totals = [&](const QString& label, const std::vector<Currency>& sums, TableExport::RowStyle style) {
-        QVariantList values(d->spec.columns.size());
+        QVariantList values(d->definition.columns.size());
         if (!values.isEmpty())
             values[0] = label;
-        for (int c = 0; c < d->spec.columns.size(); ++c) {
-            if (d->spec.columns[c].total)
-                values[c] = d->spec.columns[c].kind == Kind::Integer ? QVariant(qint64(sums[c].raw() / Currency::Scale))
+        for (int c = 0; c < d->definition.columns.size(); ++c) {
+            if (d->definition.columns[c].total)
+                values[c] = d->definition.columns[c].kind == Kind::Integer ? QVariant(qint64(sums[c].raw() / Currency::Scale))
                                                                       : QVariant::fromValue(sums[c]);
         }
         return out.addRow(values, style);
@@ -710,7 +710,7 @@ bool ReportDocument::exportTable(const QString& fileName, const std::function<bo
         switch (item.kind) {
         case ItemKind::Row: {
             QVariantList values;
-            for (int c = 0; c < d->spec.columns.size(); ++c)
+            for (int c = 0; c < d->definition.columns.size(); ++c)
                 values << d->cellValue(item.index, c);
             ok = out.addRow(values);
             break;
@@ -720,12 +720,12 @@ bool ReportDocument::exportTable(const QString& fileName, const std::function<bo
             break;
         case ItemKind::Subtotal: {
             const Group& group = d->groups[item.index];
-            ok = totals(inLanguage(d->spec.languageId, "รวม %1", "Total %1").arg(group.heading), group.sums,
+            ok = totals(inLanguage(d->definition.languageId, "รวม %1", "Total %1").arg(group.heading), group.sums,
                 TableExport::RowStyle::Subtotal);
             break;
         }
         case ItemKind::GrandTotal:
-            ok = totals(inLanguage(d->spec.languageId, "รวมทั้งสิ้น", "Grand total"), d->grandTotal, TableExport::RowStyle::Total);
+            ok = totals(inLanguage(d->definition.languageId, "รวมทั้งสิ้น", "Grand total"), d->grandTotal, TableExport::RowStyle::Total);
             break;
         }
         if (!ok)

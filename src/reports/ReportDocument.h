@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/Currency.h"
-#include "reports/ReportSpec.h"
+#include "reports/ReportDefinition.h"
 
 #include <QObject>
 #include <QPageLayout>
@@ -13,7 +13,7 @@ class QPagedPaintDevice;
 
 namespace qd8 {
 
-// A report laid out in pages as its rows arrive. The statement of the ReportSpec is read on a
+// A report laid out in pages as its rows arrive. The statement of the ReportDefinition is read on a
 // forward cursor in batches; every batch is laid out at once, so the first page is there
 // long before the last row is read and a host keeps its window alive between batches.
 // Rows are kept typed in a compact store (text as UTF-8, money as fixed point), pages as
@@ -29,15 +29,15 @@ class ReportDocument : public QObject {
 public:
     enum class State { Idle, Reading, Complete, Cancelled, Failed };
 
-    explicit ReportDocument(const ReportSpec& spec, QObject* parent = nullptr);
+    explicit ReportDocument(const ReportDefinition& definition, QObject* parent = nullptr);
     ~ReportDocument() override;
 
-    const ReportSpec& spec() const;
-    // A4, in the ReportSpec's orientation, without margins: the report draws its own.
+    const ReportDefinition& definition() const;
+    // A4, in the ReportDefinition's orientation, without margins: the report draws its own.
     QPageLayout pageLayout() const;
 
     // Opens the statement on the connection and lays out its first rows. Throws DbError when
-    // the statement fails or lacks a column the ReportSpec names.
+    // the statement fails or lacks a column the ReportDefinition names.
     void open(const QString& connectionString);
     // Reads and lays out up to `rows` more rows; false once every row is read (or the
     // reading stopped).
@@ -59,7 +59,7 @@ public:
     int pageCount() const;
     // Pages that will not change any more.
     int finishedPages() const;
-    // Grand total of a column of the ReportSpec (zero for columns without a total).
+    // Grand total of a column of the ReportDefinition (zero for columns without a total).
     Currency total(int column) const;
 
     // Paints page `page` (from 0) with the page's top left corner at the painter's origin,

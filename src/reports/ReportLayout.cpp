@@ -36,10 +36,10 @@ std::optional<ReportLayout> ReportLayout::read(const QString& commandAlias, cons
     layout.reportGroup = rs.text(QStringLiteral("TRpLReportGroup")).trimmed();
     layout.tableQuery = named(rs.text(QStringLiteral("TRpLQuery")).trimmed());
     layout.order = named(rs.text(QStringLiteral("TRpLOrder")).trimmed());
-    layout.spec.groupField = named(rs.text(QStringLiteral("TRpLGroupField")).trimmed());
-    layout.spec.groupCaptionField = named(rs.text(QStringLiteral("TRpLGroupCaptionField")).trimmed());
-    layout.spec.landscape = toNumber(rs.field(QStringLiteral("TRpLLandscape"))) != 0;
-    layout.spec.languageId = languageId;
+    layout.definition.groupField = named(rs.text(QStringLiteral("TRpLGroupField")).trimmed());
+    layout.definition.groupCaptionField = named(rs.text(QStringLiteral("TRpLGroupCaptionField")).trimmed());
+    layout.definition.landscape = toNumber(rs.field(QStringLiteral("TRpLLandscape"))) != 0;
+    layout.definition.languageId = languageId;
     rs.open(Sql("SELECT * FROM QD8TReportColumn WHERE TRpCTCmdAlias=") + quoted(commandAlias) + " ORDER BY TRpCSort", c);
     for (; !rs.eof(); rs.moveNext()) {
         ReportColumn column;
@@ -49,14 +49,14 @@ std::optional<ReportLayout> ReportLayout::read(const QString& commandAlias, cons
         column.total = toNumber(rs.field(QStringLiteral("TRpCTotal"))) != 0;
         if (const int width = int(toNumber(rs.field(QStringLiteral("TRpCWidth")))); width > 0)
             column.width = width;
-        layout.spec.columns << column;
+        layout.definition.columns << column;
     }
     return layout;
 }
 
-ReportSpec ReportLayout::specFor(const QString& statement, const QString& title, const QString& company, const QString& criteria) const
+ReportDefinition ReportLayout::definitionFor(const QString& statement, const QString& title, const QString& company, const QString& criteria) const
 {
-    ReportSpec out = spec;
+    ReportDefinition out = definition;
     out.sql = order.isEmpty() ? statement : statement + QStringLiteral(" ORDER BY ") + order;
     out.title = title;
     out.company = company;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reports/ReportSpec.h"
+#include "reports/ReportDefinition.h"
 
 #include <optional>
 
@@ -14,12 +14,12 @@ struct ReportLayout {
     QString reportGroup;
     QString tableQuery;  // the SELECT the criteria are added to
     QString order;       // ORDER BY text, "" for the query's own order
-    ReportSpec spec;     // groups, columns, orientation and language; no heading or SQL yet
+    ReportDefinition definition;     // groups, columns, orientation and language; no heading or SQL yet
 
     // Nothing when the command has no layout in use.
     static std::optional<ReportLayout> read(const QString& commandAlias, const QString& appConnectionString, int languageId);
-    // The ReportSpec of a statement with the criteria: the statement ordered, the heading given.
-    ReportSpec specFor(const QString& statement, const QString& title, const QString& company, const QString& criteria) const;
+    // The ReportDefinition of a statement with the criteria: the statement ordered, the heading given.
+    ReportDefinition definitionFor(const QString& statement, const QString& title, const QString& company, const QString& criteria) const;
     static ReportColumn::Kind kindOf(const QString& word);
 };
 

@@ -76,7 +76,7 @@ struct ReportPreview::Private {
     bool writing = false;
     bool stopWriting = false;
 
-    QString text(const char* thai, const char* english) const { return inLanguage(document->spec().languageId, thai, english); }
+    QString text(const char* thai, const char* english) const { return inLanguage(document->definition().languageId, thai, english); }
     QAction* addAction(QToolBar* bar, const char* name, const char* thai, const char* english, const QKeySequence& key);
     void build();
     void showProgress();
@@ -189,7 +189,7 @@ bool ReportPreview::Private::writeFile(const QString& title, const QString& suff
 {
     if (writing)
         return false;
-    const QString suggested = QDir::home().filePath(document->spec().title + suffix);
+    const QString suggested = QDir::home().filePath(document->definition().title + suffix);
     const QString file = askFileToWrite(title, suggested, suffix, filter);
     if (file.isEmpty())
         return false;
@@ -228,23 +228,23 @@ bool ReportPreview::Private::writeFile(const QString& title, const QString& suff
     return written;
 }
 
-ReportPreview* ReportPreview::open(DataObject* data, const ReportSpec& spec, QWidget* parent)
+ReportPreview* ReportPreview::open(DataObject* data, const ReportDefinition& definition, QWidget* parent)
 {
-    auto* preview = new ReportPreview(spec, data->connectionString(), parent);
+    auto* preview = new ReportPreview(definition, data->connectionString(), parent);
     preview->setAttribute(Qt::WA_DeleteOnClose);
     preview->show();
     return preview;
 }
 
-ReportPreview::ReportPreview(const ReportSpec& spec, const QString& connectionString, QWidget* parent)
+ReportPreview::ReportPreview(const ReportDefinition& definition, const QString& connectionString, QWidget* parent)
     : QWidget(parent, Qt::Window)
     , d(std::make_unique<Private>())
 {
     d->q = this;
-    d->document = new ReportDocument(spec, this);
+    d->document = new ReportDocument(definition, this);
     d->build();
-    setWindowTitle(spec.title);
-    setAccessibleName(spec.title);
+    setWindowTitle(definition.title);
+    setAccessibleName(definition.title);
     resize(d->page->width() + 60, 760);
 
     connect(d->document, &ReportDocument::progressed, this, [this] { d->showProgress(); });
@@ -285,7 +285,7 @@ void ReportPreview::print()
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageLayout(d->document->pageLayout());
     printer.setFullPage(true);
-    printer.setDocName(d->document->spec().title);
+    printer.setDocName(d->document->definition().title);
     QPrintDialog dialog(&printer, this);
     if (dialog.exec() == QDialog::Accepted)
         d->document->paint(printer);
@@ -299,7 +299,7 @@ void ReportPreview::printPreview()
     printer.setPageLayout(d->document->pageLayout());
     printer.setFullPage(true);
     QPrintPreviewDialog dialog(&printer, this);
-    dialog.setWindowTitle(d->document->spec().title);
+    dialog.setWindowTitle(d->document->definition().title);
     connect(&dialog, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter* target) { d->document->paint(*target); });
     dialog.exec();
 }

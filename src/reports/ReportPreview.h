@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reports/ReportSpec.h"
+#include "reports/ReportDefinition.h"
 
 #include <QWidget>
 #include <memory>
@@ -22,9 +22,9 @@ class ReportPreview : public QWidget {
 public:
     // Opens a preview window on the company data of `data` and starts reading; the window
     // deletes itself when closed.
-    static ReportPreview* open(DataObject* data, const ReportSpec& spec, QWidget* parent = nullptr);
+    static ReportPreview* open(DataObject* data, const ReportDefinition& definition, QWidget* parent = nullptr);
 
-    ReportPreview(const ReportSpec& spec, const QString& connectionString, QWidget* parent = nullptr);
+    ReportPreview(const ReportDefinition& definition, const QString& connectionString, QWidget* parent = nullptr);
     ~ReportPreview() override;
 
     ReportDocument* document() const;

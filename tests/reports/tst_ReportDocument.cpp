@@ -57,9 +57,9 @@ protected:
                 values.join(",")});
     }
 
-    ReportSpec spec(int languageId) const
+    ReportDefinition definition(int languageId) const
     {
-        ReportSpec s;
+        ReportDefinition s;
         s.title = languageId == 0 ? "ใบแจ้งหนี้ตามลูกค้า" : "Invoices by customer";
         s.company = "บริษัท ตัวอย่าง จำกัด";
         s.criteria = languageId == 0 ? "วันที่ 01/01/2569 ถึง 31/01/2569" : "Date 01/01/2026 to 31/01/2026";
@@ -90,7 +90,7 @@ TEST_P(ReportDocumentTest, PdfHoldsEveryPageWithHeadingAndExactTotals)
     };
     for (const Case& c : {Case{0, "หน้า 1 / %1", "หน้า %1 / %1", "รวม C2", 543}, Case{1, "Page 1 of %1", "Page %1 of %1", "Total C2", 0}}) {
         SCOPED_TRACE(c.languageId);
-        ReportDocument report(spec(c.languageId));
+        ReportDocument report(definition(c.languageId));
         report.open(db->connectionString());
         ASSERT_TRUE(report.readAll());
         const QString file = folder.filePath(QStringLiteral("r%1.pdf").arg(c.languageId));
@@ -107,7 +107,7 @@ TEST_P(ReportDocumentTest, PdfHoldsEveryPageWithHeadingAndExactTotals)
         EXPECT_EQ(pdfPages(file), pages);
         const QString text = comparable(pdfText(file));
         for (const QString& expected : {QString::fromUtf8(c.firstPage).arg(pages), QString::fromUtf8(c.lastPage).arg(pages),
-                 spec(c.languageId).title, spec(c.languageId).criteria, QString::number(QDate::currentDate().year() + c.yearShift),
+                 definition(c.languageId).title, definition(c.languageId).criteria, QString::number(QDate::currentDate().year() + c.yearShift),
                  groupedMoney(grand), groupedMoney(c2), QString::fromUtf8(c.subtotal), QStringLiteral("1,200")})
             EXPECT_TRUE(text.contains(comparable(expected))) << expected.toStdString();
     }
@@ -116,7 +116,7 @@ TEST_P(ReportDocumentTest, PdfHoldsEveryPageWithHeadingAndExactTotals)
 // The long description wraps between two of its words, never inside one (libthai).
 TEST_P(ReportDocumentTest, ThaiWrapsBetweenWords)
 {
-    ReportDocument report(spec(0));
+    ReportDocument report(definition(0));
     report.open(db->connectionString());
     ASSERT_TRUE(report.readAll());
     const QString file = folder.filePath("wrap.pdf");
@@ -142,7 +142,7 @@ TEST_P(ReportDocumentTest, ThaiWrapsBetweenWords)
 
 TEST_P(ReportDocumentTest, WorkbookAndCsvHoldTypedRowsAndTotals)
 {
-    ReportDocument report(spec(1));
+    ReportDocument report(definition(1));
     report.open(db->connectionString());
     ASSERT_TRUE(report.readAll());
     const QString xlsx = folder.filePath("r.xlsx"), csv = folder.filePath("r.csv");
@@ -180,7 +180,7 @@ TEST_P(ReportDocumentTest, WorkbookAndCsvHoldTypedRowsAndTotals)
 // Cancelling keeps what was there; the first page is ready before the last row is read.
 TEST_P(ReportDocumentTest, CancelLeavesNothingHalfWritten)
 {
-    ReportDocument report(spec(0));
+    ReportDocument report(definition(0));
     report.open(db->connectionString());
     EXPECT_EQ(report.state(), ReportDocument::State::Reading);
     EXPECT_GE(report.finishedPages(), 1);
@@ -200,7 +200,7 @@ TEST_P(ReportDocumentTest, CancelLeavesNothingHalfWritten)
     }
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 3);
 
-    ReportDocument stopped(spec(0));
+    ReportDocument stopped(definition(0));
     stopped.open(db->connectionString());
     stopped.cancel();
     EXPECT_EQ(stopped.state(), ReportDocument::State::Cancelled);
@@ -209,7 +209,7 @@ TEST_P(ReportDocumentTest, CancelLeavesNothingHalfWritten)
 
 TEST_P(ReportDocumentTest, PreviewTurnsPagesAndSavesThroughTheServices)
 {
-    auto* preview = new ReportPreview(spec(1), db->connectionString());
+    auto* preview = new ReportPreview(definition(1), db->connectionString());
     preview->setAttribute(Qt::WA_DeleteOnClose);
     const QPointer<ReportPreview> alive(preview);
     preview->show();
@@ -232,7 +232,7 @@ TEST_P(ReportDocumentTest, PreviewTurnsPagesAndSavesThroughTheServices)
     QTest::keyClick(preview, Qt::Key_Escape);
     QTRY_VERIFY(!alive);
 
-    ReportSpec wrong = spec(1);
+    ReportDefinition wrong = definition(1);
     wrong.columns[2].field = "TIvoRemark";
     ReportPreview failed(wrong, db->connectionString());
     ASSERT_EQ(scriptedMessages().shown.size(), 1);

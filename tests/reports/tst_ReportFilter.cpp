@@ -255,21 +255,21 @@ TEST_P(ReportFilterTest, EverySampleReportRunsWithItsDefaultCriteria)
             const QString alias = layouts.text(QStringLiteral("TRpLTCmdAlias"));
             SCOPED_TRACE(alias.toStdString());
             const std::optional<ReportLayout> layout = ReportLayout::read(alias, appConnectionString(), language);
-            ASSERT_TRUE(layout && !layout->spec.columns.isEmpty());
+            ASSERT_TRUE(layout && !layout->definition.columns.isEmpty());
             auto filter = std::make_unique<ReportFilter>();
             filter->setRLID(language);
             filter->SetFirst(layout->reportGroup, {}, layout->tableQuery,
                 std::make_shared<DbDataObject>(dataConnectionString(), appConnectionString(), 1), nullptr, nullptr);
             QSignalSpy previewed(filter.get(), &ReportFilter::PreviewAction);
             ASSERT_TRUE(filter->Preview());
-            const ReportSpec spec = layout->specFor(previewed[0][0].toString(), {}, {}, previewed[0][2].toString());
+            const ReportDefinition definition = layout->definitionFor(previewed[0][0].toString(), {}, {}, previewed[0][2].toString());
             Connection data;
             data.open(dataConnectionString());
             Recordset rs;
-            rs.open(Sql(spec.sql), data);
-            for (const ReportColumn& column : spec.columns)
+            rs.open(Sql(definition.sql), data);
+            for (const ReportColumn& column : definition.columns)
                 EXPECT_GE(rs.fieldIndex(column.field), 0) << column.field.toStdString();
-            EXPECT_TRUE(spec.groupCaptionField.isEmpty() || rs.fieldIndex(spec.groupCaptionField) >= 0);
+            EXPECT_TRUE(definition.groupCaptionField.isEmpty() || rs.fieldIndex(definition.groupCaptionField) >= 0);
             if (!rs.eof())
                 seen << alias;
         }

@@ -90,14 +90,14 @@ TEST_P(ReportWindowTest, ReportsAreFoundByModuleInEitherLanguageAndOpenTheirCrit
     EXPECT_EQ(report->filter()->RLID(), 1);
     typeText(report->filter()->editor(1), "1112-01");
     QTest::keyClick(report->filter()->editor(1), Qt::Key_F5);
-    const ReportSpec& spec = report->lastReport();
-    EXPECT_EQ(spec.title, "GL-R02 - General Ledger Report");
-    EXPECT_TRUE(spec.criteria.startsWith("Date from 01/")) << spec.criteria.toStdString();
-    EXPECT_TRUE(spec.sql.endsWith("AND TGTSTACCCode='1112-01' ORDER BY TGTSTACCCode, TGLTDate, TGLTNo, TGTSLn")) << spec.sql.toStdString();
-    EXPECT_EQ(spec.groupCaptionField, "AccountName");
-    EXPECT_EQ(spec.columns.value(3).caption, "Description");
+    const ReportDefinition& definition = report->lastReport();
+    EXPECT_EQ(definition.title, "GL-R02 - General Ledger Report");
+    EXPECT_TRUE(definition.criteria.startsWith("Date from 01/")) << definition.criteria.toStdString();
+    EXPECT_TRUE(definition.sql.endsWith("AND TGTSTACCCode='1112-01' ORDER BY TGTSTACCCode, TGLTDate, TGLTNo, TGTSLn")) << definition.sql.toStdString();
+    EXPECT_EQ(definition.groupCaptionField, "AccountName");
+    EXPECT_EQ(definition.columns.value(3).caption, "Description");
     ASSERT_TRUE(report->preview());
-    EXPECT_EQ(report->preview()->windowTitle(), spec.title);
+    EXPECT_EQ(report->preview()->windowTitle(), definition.title);
     report->preview()->close();
     // A language switch rewords the criteria and the report and keeps what was typed.
     window->setLanguage(0);

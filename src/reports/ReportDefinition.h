@@ -18,7 +18,7 @@ struct ReportColumn {
 
 // What a host hands the report engine: the heading, the complete query and its layout.
 // The rows are laid out in the order the query returns them.
-struct ReportSpec {
+struct ReportDefinition {
     QString title, company, criteria; // heading lines; criteria is the readable sentence of the filter
     QString sql;                      // the complete SELECT: condition and ORDER BY included
     QString groupField;               // empty: no groups; rows arrive ordered by it
