@@ -2,11 +2,8 @@
 
 #include "database/Schema.h"
 #include "database/SessionFunctions.h"
-#include "foundation/Connection.h"
 #include "foundation/ConnectionString.h"
-#include "foundation/Recordset.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
 #include <QProcess>
@@ -76,43 +73,16 @@ WorkbenchSession WorkbenchSession::fromConnectionStrings(const QString& app, con
     return session;
 }
 
-QList<WorkbenchUser> WorkbenchSession::users() const
-{
-    Connection c;
-    c.open(dataConnectionString);
-    Recordset rs;
-    rs.open("SELECT TUsrID, TUsrLoginName, TUsrName, TUsrName2, TUsrLoginPassword FROM QD8TUser WHERE TUsrActiveStatus=1 AND TUsrFlag1=1 ORDER BY TUsrID", c);
-    QList<WorkbenchUser> users;
-    for (; !rs.eof(); rs.moveNext()) {
-        WorkbenchUser user{rs.field(QStringLiteral("TUsrID")).toInt(), rs.text(QStringLiteral("TUsrLoginName")), {},
-            rs.text(QStringLiteral("TUsrLoginPassword"))};
-        // Each user's name in the language of his own setting.
-        const double language = DbSessionFunctions().GetUserSetting(user.id, QStringLiteral("LanguageID"), dataConnectionString);
-        user.name = rs.text(language == 0 ? QStringLiteral("TUsrName") : QStringLiteral("TUsrName2"));
-        users << user;
-    }
-    return users;
-}
-
-QString WorkbenchSession::passwordHash(const QString& password)
-{
-    return QStringLiteral("sha256:") + QString::fromLatin1(QCryptographicHash::hash(password.toUtf8(), QCryptographicHash::Sha256).toHex());
-}
-
 bool WorkbenchSession::logIn(const QString& name, const QString& givenPassword)
 {
-    for (const WorkbenchUser& user : users()) {
-        if (user.loginName.compare(name, Qt::CaseInsensitive) != 0)
-            continue;
-        if (!user.passwordHash.isEmpty() && user.passwordHash != passwordHash(givenPassword))
-            return false;
-        userId = user.id;
-        loginName = user.loginName;
-        password = givenPassword;
-        languageId = int(std::nearbyint(DbSessionFunctions().GetUserSetting(userId, QStringLiteral("LanguageID"), dataConnectionString)));
-        return true;
-    }
-    return false;
+    const std::optional<CompanyUser> user = checkLogin(dataConnectionString, name, givenPassword);
+    if (!user)
+        return false;
+    userId = user->id;
+    loginName = user->loginName;
+    password = givenPassword;
+    languageId = int(std::nearbyint(DbSessionFunctions().GetUserSetting(userId, QStringLiteral("LanguageID"), dataConnectionString)));
+    return true;
 }
 
 void WorkbenchSession::setLanguage(int language, bool store)

@@ -1,18 +1,14 @@
 #pragma once
 
+#include "database/CompanyUsers.h"
+
 #include <QList>
 #include <QString>
 #include <stdexcept>
 
 namespace qd8 {
 
-// One user of the company as the login offers him.
-struct WorkbenchUser {
-    qint32 id = 0;
-    QString loginName;
-    QString name;   // in his own language
-    QString passwordHash;  // "sha256:<hex>", "" for none
-};
+using WorkbenchUser = CompanyUser;
 
 // What the workbench hands every control: the company's databases, its folders and the
 // logged-in user.
@@ -45,13 +41,11 @@ struct WorkbenchSession {
     // that hold a company too (~/.qd8/sample, ~/.qd8/branch2, ...). Nobody is logged in to them.
     QList<WorkbenchSession> companies() const;
 
-    QList<WorkbenchUser> users() const;
+    QList<WorkbenchUser> users() const { return companyUsers(dataConnectionString); }
     // Logs the user in: true when the login name exists and the password matches.
     bool logIn(const QString& loginName, const QString& password);
     // The user's "LanguageID" setting, stored for him when `store` is set.
     void setLanguage(int languageId, bool store);
-
-    static QString passwordHash(const QString& password);
 };
 
 } // namespace qd8
