@@ -4,10 +4,6 @@
 #include "ListPrinter.h"
 #include "LoginDialog.h"
 #include "WorkbenchWeb.h"
-#include "database/AppObject.h"
-#include "database/ClientObject.h"
-#include "database/DataObject.h"
-#include "database/PermissionObject.h"
 #include "database/SessionFunctions.h"
 #include "database/SessionServices.h"
 #include "documents/DucumentList.h"
@@ -38,7 +34,6 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QScrollArea>
-#include <QMetaClassInfo>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QStatusBar>
@@ -205,43 +200,9 @@ void WorkbenchWindow::fillModules(const QString& module)
     m_modules->setCurrentIndex(index < 0 ? (m_modules->count() > 1 ? 1 : 0) : index);
 }
 
-WorkbenchWindow::SessionObjects WorkbenchWindow::sessionObjects(const HostedControl& control) const
-{
-    const WorkbenchSession& s = m_session;
-    return {std::make_shared<DbDataObject>(s.dataConnectionString, s.appConnectionString, s.userId, s.loginName),
-        std::make_shared<SessionAppObject>(control.session()), std::make_shared<DbClientObject>(s.sessionConnectionString, s.userId)};
-}
-
 void WorkbenchWindow::setUpControl(HostedControl& control, const QString& commandAlias, const QString& commandGroup)
 {
-    // The session first (properties, then the session objects and SetLast2), then rights,
-    // print command and parent form; the caller refreshes.
-    const WorkbenchSession& s = m_session;
-    // The editors name the application database with ConnectionString, the launchers the
-    // session database.
-    const int info = control.metaObject()->indexOfClassInfo("ConnectionString");
-    const bool application = info >= 0 && qstrcmp(control.metaObject()->classInfo(info).value(), "application") == 0;
-    control.setConnectionString(application ? s.appConnectionString : s.sessionConnectionString);
-    control.setAppConnectionString(s.appConnectionString);
-    control.setDataConnectionString(s.dataConnectionString);
-    control.setUserID(s.userId);
-    control.setUserLoginName(s.loginName);
-    control.setUserLoginPassword(s.password);
-    control.setAppPath(s.appPath);
-    control.setSystemFolder(s.appPath);
-    control.setSpecFolder(s.appPath + QStringLiteral("/Spec"));
-    control.setImageFolder(s.appPath + QStringLiteral("/Images"));
-    control.setIconPath(s.iconPath());
-    control.setCommandGroup(commandGroup);
-    const auto [data, app, client] = sessionObjects(control);
-    control.SetFirst(data, app, client);
-    control.SetLast2(s.appPath + QStringLiteral("/Users/") + s.loginName, commandAlias, QString::number(s.userId),
-        s.dataConnectionString, s.appConnectionString);
-    std::shared_ptr<PermissionObject> rights = SessionServices::newCommandPermission();
-    rights->LoadCommandRights(s.userId, commandAlias, s.sessionConnectionString, s.appConnectionString);
-    control.SetPermission(std::move(rights));  // the control keeps it for its employee scope
-    control.SetPrintCommand(0, s.appPath, s.loginName, s.password);
-    control.SetParentForm(this);
+    m_session.setUp(control, commandAlias, commandGroup, this);
 }
 
 void WorkbenchWindow::refreshLaunchers()
@@ -437,12 +398,12 @@ void WorkbenchWindow::openForm(const QString& formName, const Command& command)
 void WorkbenchWindow::loadControl(HostedControl& control, const Command& command)
 {
     if (auto* list = qobject_cast<DucumentList*>(&control)) {
-        const auto [data, app, client] = sessionObjects(control);
+        const auto [data, app, client] = m_session.sessionObjects(control);
         list->SetFilter(command.alias, command.group, data, app, client, this, command.caption, command.caption);
         return;
     }
     if (auto* list = qobject_cast<MasterList*>(&control)) {
-        const auto [data, app, client] = sessionObjects(control);
+        const auto [data, app, client] = m_session.sessionObjects(control);
         list->SetFilter(command.alias, command.group, data, app, client, this, command.caption, command.caption);
         return;
     }

@@ -8,7 +8,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <tuple>
 
 class QAction;
 class QComboBox;
@@ -17,10 +16,7 @@ class QTabWidget;
 
 namespace qd8 {
 
-class AppObject;
 class DbError;
-class ClientObject;
-class DataObject;
 class HostedControl;
 class NUVRibbon;
 class ShortCutBar;
@@ -120,9 +116,7 @@ private:
     };
     void buildStatusBar();
     void fillModules(const QString& module);
-    // The session objects a control is handed: data, application and client object.
-    using SessionObjects = std::tuple<std::shared_ptr<DataObject>, std::shared_ptr<AppObject>, std::shared_ptr<ClientObject>>;
-    SessionObjects sessionObjects(const HostedControl& control) const;
+    // The session, rights, print command and this window as the parent form.
     void setUpControl(HostedControl& control, const QString& commandAlias, const QString& commandGroup);
     // Document and master lists load their definition and rows; other controls refresh.
     void loadControl(HostedControl& control, const Command& command);
