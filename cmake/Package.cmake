@@ -3,6 +3,7 @@
 # (designer, when the plugin is built) and qd8-workbench (apps). dpkg-shlibdeps finds the
 # shared libraries each one needs; the Debian packages named here are those it cannot see
 # (fonts, Qt plugins loaded at run time, the CMake package's own dependencies).
+# Included last: CPack packages the components whose install rules exist by then.
 set(QD8_PACKAGE_MAINTAINER "QD8Designer2 maintainers <maintainers@qd8designer2.example>"
   CACHE STRING "Maintainer field of the Debian packages")
 
