@@ -58,17 +58,18 @@ void SalesDesk::open()
     const auto [data, app, client] = m_session.sessionObjects(*orders);
     orders->SetFilter(alias, orders->CommandGroup(), data, app, client, &m_windows, QString(), QString());
 
-    // The ledger: the criteria of its report and, beside them, the latest voucher.
+    // The ledger: the criteria of its report and, below them, the latest voucher.
     qd8::ReportFilter* criteria = m_ledger.criteria;
-    m_session.setUp(*criteria, criteria->property("reportCommand").toString(), QStringLiteral("GL"), this);
-    m_report = qd8::ReportLayout::read(criteria->property("reportCommand").toString(), m_session.appConnectionString, m_session.languageId);
+    const QString report = criteria->property("reportCommand").toString();
+    m_session.setUp(*criteria, report, criteria->CommandGroup(), this);
+    m_report = qd8::ReportLayout::read(report, m_session.appConnectionString, m_session.languageId);
     if (m_report) {
         criteria->setRLID(m_session.languageId);
         criteria->SetFirst(m_report->reportGroup, QString(), m_report->tableQuery, criteria->sharedDataObject(),
             criteria->sharedAppObject(), criteria->sharedClientObject());
     }
     qd8::GLControl* voucher = m_ledger.voucher;
-    m_session.setUp(*voucher, QString(), QStringLiteral("GL"), this);
+    m_session.setUp(*voucher, QString(), voucher->CommandGroup(), this);
     voucher->SetFirst(this, voucher->sharedDataObject(), voucher->sharedAppObject(), voucher->sharedClientObject(), QString());
     qd8::Connection c;
     c.open(m_session.dataConnectionString);

@@ -14,7 +14,7 @@
 
 // The sales desk: the module's shortcuts beside three forms built from .ui files — the
 // product master data (QuickGrid), the sales orders (DucumentList) and the ledger
-// (ReportFilter beside the latest voucher in a GLControl).
+// (ReportFilter above the latest voucher in a GLControl).
 class SalesDesk : public QMainWindow {
     Q_OBJECT
 

@@ -113,7 +113,8 @@ void ReportFilter::Private::buildLines()
                 box = combo;
             } else if (c.isDate()) {
                 auto* date = new DateEdit(form);
-                date->setMaximumWidth(date->fontMetrics().horizontalAdvance(QStringLiteral("00/00/00000")) + 24);
+                // As wide as a date, however long the notes beside it are.
+                date->setFixedWidth(date->fontMetrics().horizontalAdvance(QStringLiteral("00/00/00000")) + 24);
                 date->setLanguageId(rlid);
                 date->setToday(day());
                 // A date typed over a relative one is a fixed date from now on.
@@ -133,6 +134,7 @@ void ReportFilter::Private::buildLines()
             if (c.isDate()) {
                 auto* note = new QLabel(form);
                 note->setEnabled(false);
+                note->setWordWrap(true);
                 line.relativeNotes << note;
                 auto* relative = new QToolButton(form);
                 relative->setText(QStringLiteral("…"));
