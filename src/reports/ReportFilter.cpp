@@ -222,7 +222,7 @@ QString ReportFilter::Private::condition(ReportCriterion::Kind kind) const
     switch (kind) {
     case Kind::Equals: return text("เท่ากับค่าที่ระบุ", "equal to the value given");
     case Kind::Like: return text("มีคำที่พิมพ์", "holding the words typed");
-    case Kind::Between: return text("อยู่ในช่วงตั้งแต่ถึง", "within the range from and to");
+    case Kind::Between: return text("ค่าในช่วงที่ระบุ", "within the range given");
     case Kind::AtLeast: return text("ตั้งแต่ค่าที่ระบุขึ้นไป", "the value given or more");
     case Kind::AtMost: return text("ไม่เกินค่าที่ระบุ", "up to the value given");
     case Kind::OneOf: return text("ค่าใดค่าหนึ่งที่ระบุ", "any of the values given");

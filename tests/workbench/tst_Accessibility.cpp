@@ -27,6 +27,7 @@
 #include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTableView>
 #include <QToolButton>
 
 using namespace qd8;
@@ -197,6 +198,33 @@ TEST_P(AccessibilityTest, DialogsAndPickersNameEverythingAUserCanReach)
             unnamed << QString::fromUtf8(scene) + QStringLiteral(": ") + path;
     }
     EXPECT_EQ(unnamed, QStringList());
+}
+
+// A list's cells and column titles reach a screen reader through the table interface, and
+// names, descriptions and titles follow the session's language when it switches.
+TEST_P(AccessibilityTest, TablesExposeTheirCellsAndNamesFollowTheLanguage)
+{
+    auto window = open("SOMCHAI", "PU");
+    window->launch(QStringLiteral("PURPR"));
+    QTableView* rows = window->tabs()->currentWidget()->findChild<DataView*>()->tableView();
+    window->launch(QStringLiteral("GLTB"));
+    QWidget* criterion = window->tabs()->currentWidget()->findChild<QWidget*>(QStringLiteral("criterion0_0"));
+    QWidget* picked = window->tabs()->currentWidget()->findChild<QWidget*>(QStringLiteral("criterion1_0"));
+    ASSERT_TRUE(rows && criterion && picked);
+    QAccessibleInterface* list = QAccessible::queryAccessibleInterface(rows);
+    QAccessibleInterface* box = QAccessible::queryAccessibleInterface(criterion);
+    ASSERT_TRUE(list->tableInterface());
+    const QString first = list->tableInterface()->cellAt(0, 0)->text(QAccessible::Name);
+    EXPECT_TRUE(first.startsWith(QLatin1String("PR")) && first == rows->model()->index(0, 0).data().toString()) << first.toStdString();
+    // The column title, the list, the criterion and its condition, and a picked criterion's tip
+    // (said once), in each language.
+    const auto heard = [&] {
+        return QStringList{list->tableInterface()->columnDescription(0), list->text(QAccessible::Name), box->text(QAccessible::Name),
+            box->text(QAccessible::Description).section(QStringLiteral("; "), 0, 1), picked->toolTip()};
+    };
+    EXPECT_EQ(heard(), QStringList({"เลขที่", "รายการ", "วันที่ ตั้งแต่", "ค่าในช่วงที่ระบุ; ต้องระบุ", "F2 เลือกจากรายการ"}));
+    window->setLanguage(1);
+    EXPECT_EQ(heard(), QStringList({"No.", "Rows", "Date from", "within the range given; required", "F2 picks from the list"}));
 }
 
 QD8_ON_BOTH_ENGINES(AccessibilityTest);
