@@ -25,10 +25,9 @@ TableListForm::TableListForm(const TableListDefinition& definition, QWidget* par
     , m_table(new QTableWidget(this))
     , m_total(new QLabel(this))
 {
-    m_search->setPlaceholderText(QStringLiteral("ค้นหา / Search"));
     m_search->setClearButtonEnabled(true);
-    auto* print = new QPushButton(QStringLiteral("Print"), this);
-    auto* close = new QPushButton(QStringLiteral("Close"), this);
+    auto* print = new QPushButton(this);
+    auto* close = new QPushButton(this);
     print->setObjectName(QStringLiteral("print"));
     close->setObjectName(QStringLiteral("close"));
     auto* bar = new QHBoxLayout;
@@ -95,6 +94,12 @@ QString TableListForm::statement() const
 
 void TableListForm::Refresh()
 {
+    // The host refreshes after the session language changed: the words follow.
+    m_search->setPlaceholderText(bilingual("ค้นหา", "Search"));
+    m_search->setAccessibleName(m_search->placeholderText());
+    m_table->setAccessibleName(caption());
+    findChild<QPushButton*>(QStringLiteral("print"))->setText(bilingual("พิมพ์", "Print"));
+    findChild<QPushButton*>(QStringLiteral("close"))->setText(bilingual("ปิด", "Close"));
     const QStringList captions = splitList(captionList());
     m_table->setColumnCount(int(captions.size()));
     m_table->setHorizontalHeaderLabels(captions);

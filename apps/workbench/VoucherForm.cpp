@@ -45,6 +45,8 @@ VoucherForm::VoucherForm(QWidget* parent)
     m_definition.auditPrefix = QStringLiteral("TGLT");
     m_panels = new DocumentPanels(m_definition, this);
     m_reference->setObjectName(QStringLiteral("reference"));
+    m_dateLabel->setBuddy(m_date);
+    m_referenceLabel->setBuddy(m_reference);
     connect(m_panels, &DocumentPanels::changed, this, &VoucherForm::FillData);
     auto* top = new QHBoxLayout;
     for (QWidget* w : std::initializer_list<QWidget*>{m_dateLabel, m_date, m_referenceLabel, m_reference, m_save, m_close})

@@ -7,6 +7,7 @@
 #include "foundation/SqlRefusal.h"
 #include "foundation/Services.h"
 #include "foundation/Values.h"
+#include "widgets/ButtonWords_p.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -105,7 +106,7 @@ void PointControl::Private::retranslate()
         fields[i]->setAccessibleName(captions[i]->text());
     }
     select->setText(QStringLiteral("..."));
-    select->setToolTip(q->bilingual("เลือกใบใช้ Point (F2)", "Pick a point document (F2)"));
+    setButtonWords(select, q->bilingual("เลือกใบใช้ Point (F2)", "Pick a point document (F2)"));
     addNew->setText(q->bilingual("สร้างใหม่", "New"));
     open->setText(q->bilingual("เปิด", "Open"));
     apply->setText(q->bilingual("ใช้ Point", "Apply"));

@@ -9,6 +9,7 @@
 #include "foundation/Recordset.h"
 #include "foundation/Services.h"
 #include "foundation/SqlDialect.h"
+#include "widgets/ButtonWords_p.h"
 
 #include <QDate>
 #include <QEvent>
@@ -224,11 +225,14 @@ void JobSelector::Private::relabel()
     productionLabel->setText(q->bilingual("ใบสั่งผลิต", "PD. No"));
     productionStepLabel->setText(q->bilingual("ขั้นตอนผลิต", "PD. Process"));
     forProduction->setText(q->bilingual("สำหรับการผลิต", "For Production"));
-    const std::pair<QLineEdit*, QString> named[] = {{jobBox, jobLabel->text()}, {jobLineBox, QStringLiteral("JL")},
+    const std::pair<QLineEdit*, QString> named[] = {{jobBox, jobLabel->text()}, {jobLineBox, q->bilingual("บรรทัดของใบสั่งงาน", "Job line")},
         {cardBox, cardLabel->text()}, {stepBox, stepLabel->text()}, {sectionBox, q->bilingual("หน่วยงาน / ที่เก็บ", "Section / Location")},
         {productionBox, productionLabel->text()}, {productionStepBox, productionStepLabel->text()}};
     for (const auto& [box, name] : named)
         box->setAccessibleName(name);
+    setButtonWords(jobButton, q->bilingual("เลือกใบสั่งงาน", "Pick a job"));
+    setButtonWords(stepButton, q->bilingual("เลือกขั้นตอน (F2)", "Pick a process (F2)"));
+    setButtonWords(productionButton, q->bilingual("เลือกใบสั่งผลิต", "Pick a production order"));
 }
 
 void JobSelector::Private::report(const DbError& error)

@@ -11,6 +11,7 @@
 #include "foundation/Services.h"
 #include "foundation/TransactionGuard.h"
 #include "foundation/Values.h"
+#include "widgets/ButtonWords_p.h"
 #include "widgets/EditorShortcuts_p.h"
 #include "widgets/GridEditor.h"
 #include "widgets/GridEditorModel.h"
@@ -121,6 +122,7 @@ OptionEditor::OptionEditor(const Scope& scope, QWidget* parent)
     d->title = new QLabel(this);
     d->toolBar = new QToolBar(this);
     d->grid = new GridEditor(this);
+    d->selectLabel->setBuddy(d->selector);
     d->selector->setReadOnly(true);
     d->selector->setMaximumWidth(160);
     d->selectButton->setText(QStringLiteral("..."));
@@ -349,7 +351,7 @@ void OptionEditor::retranslate()
     for (const QString& key : ButtonKeys)
         button(key)->setText(editorButtonText(key, LanguageID()));
     d->selectLabel->setText(d->selectCaption.isEmpty() ? bilingual("กลุ่มตัวเลือก", "Option Group") : d->selectCaption);
-    d->selectButton->setToolTip(bilingual("เลือกกลุ่มตัวเลือก (F2)", "Select Group (F2)"));
+    setButtonWords(d->selectButton, bilingual("เลือกกลุ่มตัวเลือก (F2)", "Select Group (F2)"));
 }
 
 void OptionEditor::Refresh()

@@ -11,6 +11,7 @@
 #include "foundation/Recordset.h"
 #include "foundation/Services.h"
 #include "foundation/Values.h"
+#include "widgets/ButtonWords_p.h"
 #include "widgets/EditorShortcuts_p.h"
 #include "widgets/GridEditor.h"
 #include "widgets/GridEditorModel.h"
@@ -137,7 +138,7 @@ void QuickGrid::retranslate()
     for (const QString& key : ButtonKeys)
         button(key)->setText(editorButtonText(key, LanguageID()));
     m_selectLabel->setText(m_selectCaption.isEmpty() ? bilingual("กลุ่มข้อมูล", "Group Code") : m_selectCaption);
-    m_selectButton->setToolTip(bilingual("เลือกกลุ่มข้อมูล (F2)", "Select Group Code (F2)"));
+    setButtonWords(m_selectButton, bilingual("เลือกกลุ่มข้อมูล (F2)", "Select Group Code (F2)"));
     m_filter->setPlaceholderText(bilingual("แสดงเฉพาะรายการที่มีคำนี้", "Show only rows holding"));
     m_selector->setAccessibleName(m_selectLabel->text());
     m_filter->setAccessibleName(m_filter->placeholderText());

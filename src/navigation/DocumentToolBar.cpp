@@ -2,6 +2,7 @@
 
 #include "database/LookupScope_p.h"
 #include "foundation/Services.h"
+#include "widgets/ButtonWords_p.h"
 
 #include <QHBoxLayout>
 #include <QStyle>
@@ -98,10 +99,8 @@ void DocumentToolBar::Refresh()
 {
     deriveCommandCentre();
     // The icons alone speak no language: the tool tip and the screen-reader name say what each does.
-    for (int i = 0; i < UtilityButtons; ++i) {
-        m_utilities[i]->setToolTip(bilingual(Utilities[i].thai, Utilities[i].english));
-        m_utilities[i]->setAccessibleName(m_utilities[i]->toolTip());
-    }
+    for (int i = 0; i < UtilityButtons; ++i)
+        setButtonWords(m_utilities[i], bilingual(Utilities[i].thai, Utilities[i].english));
     setMode(0);
 }
 

@@ -7,6 +7,7 @@
 #include "foundation/Services.h"
 #include "foundation/SqlRefusal.h"
 #include "reports/ReportFavorites.h"
+#include "widgets/ButtonWords_p.h"
 #include "widgets/DateEdit.h"
 
 #include <QComboBox>
@@ -37,6 +38,7 @@ public:
         QLabel* to = nullptr;
         QList<QWidget*> boxes;
         QList<QLabel*> relativeNotes;  // a date box's relative word, as words
+        QList<QToolButton*> relativeButtons;
     };
 
     ReportFilter* q;
@@ -67,6 +69,7 @@ public:
 
     QString text(const char* thai, const char* english) const { return inLanguage(rlid, thai, english); }
     QString title() const { return text("เงื่อนไขรายงาน", "Report criteria"); }
+    QString condition(ReportCriterion::Kind kind) const;
     QDate day() const { return today.isValid() ? today : QDate::currentDate(); }
     ReportFavorites store() const { return ReportFavorites(q->DataConnectionString(), q->UserID(), group, q->dataObject()); }
     const ReportFavorite* current() const
@@ -139,6 +142,7 @@ void ReportFilter::Private::buildLines()
                 auto* relative = new QToolButton(form);
                 relative->setText(QStringLiteral("…"));
                 relative->setFocusPolicy(Qt::NoFocus);  // F3 in the box does the same
+                line.relativeButtons << relative;
                 QObject::connect(relative, &QToolButton::clicked, q, [this, i, b] { offerRelative(i, b); });
                 row->addWidget(relative);
                 row->addWidget(note, 1);
@@ -177,20 +181,30 @@ void ReportFilter::Private::retranslate()
             QWidget* box = line.boxes[b];
             const QString part = line.boxes.size() == 2 ? (b == 0 ? text(" ตั้งแต่", " from") : text(" ถึง", " to")) : QString();
             box->setAccessibleName(c.captionIn(rlid) + part);
+            // The tool tip says what to type; a screen reader hears the condition too.
+            QStringList tip;
+            if (c.kind == ReportCriterion::Kind::OneOf)
+                tip << text("หลายค่าคั่นด้วยเครื่องหมายจุลภาค", "Several values separated by commas");
+            if (!c.quickForm.isEmpty())
+                tip << text("F2 เลือกจากรายการ", "F2 picks from the list");
+            if (!tip.isEmpty())
+                box->setToolTip(tip.join(QStringLiteral("; ")));
+            QStringList about{condition(c.kind)};
+            if (!c.canBlank)
+                about << text("ต้องระบุ", "required");
             if (auto* combo = qobject_cast<QComboBox*>(box)) {
                 const auto choices = c.choices(rlid);
                 for (int k = 0; k < choices.size() && k + 1 < combo->count(); ++k)
                     combo->setItemText(k + 1, choices[k].second);
             } else if (auto* date = qobject_cast<DateEdit*>(box)) {
                 date->setLanguageId(rlid);
+                setButtonWords(line.relativeButtons[b], text("วันที่เทียบกับวันพิมพ์ (F3)", "Date relative to the day printed (F3)"));
+                tip << box->toolTip() << line.relativeButtons[b]->toolTip();
             }
-            if (c.kind == ReportCriterion::Kind::OneOf)
-                box->setToolTip(text("หลายค่าคั่นด้วยเครื่องหมายจุลภาค", "Several values separated by commas"));
-            if (!c.quickForm.isEmpty())
-                box->setToolTip(box->toolTip() + (box->toolTip().isEmpty() ? QString() : QStringLiteral("; "))
-                    + text("F2 เลือกจากรายการ", "F2 picks from the list"));
+            box->setAccessibleDescription((about + tip).join(QStringLiteral("; ")));
         }
     }
+    scroll->setAccessibleName(title());
     favoriteLabel->setText(text("รายการโปรด", "Favourite"));
     favoriteBox->setAccessibleName(favoriteLabel->text());
     saveButton->setText(text("บันทึก…", "Save…"));
@@ -202,6 +216,20 @@ void ReportFilter::Private::retranslate()
         favoriteBox->setItemText(0, text("(ไม่ใช้รายการโปรด)", "(no favourite)"));
     const ReportFavorite* f = current();
     defaultButton->setText(f && f->isDefault ? text("เลิกเป็นค่าเริ่มต้น", "Not default") : text("ตั้งเป็นค่าเริ่มต้น", "Make default"));
+}
+
+QString ReportFilter::Private::condition(ReportCriterion::Kind kind) const
+{
+    using Kind = ReportCriterion::Kind;
+    switch (kind) {
+    case Kind::Equals: return text("เท่ากับค่าที่ระบุ", "equal to the value given");
+    case Kind::Like: return text("มีคำที่พิมพ์", "holding the words typed");
+    case Kind::Between: return text("ค่าในช่วงที่ระบุ", "within the range given");
+    case Kind::AtLeast: return text("ตั้งแต่ค่าที่ระบุขึ้นไป", "the value given or more");
+    case Kind::AtMost: return text("ไม่เกินค่าที่ระบุ", "up to the value given");
+    case Kind::OneOf: return text("ค่าใดค่าหนึ่งที่ระบุ", "any of the values given");
+    }
+    return {};
 }
 
 // The screen shows criterion `index` as the criteria hold it.

@@ -29,6 +29,7 @@ DateTimeView::DateTimeView(QWidget* parent)
     setTabOrder(m_calendar, m_time);
     connect(m_calendar, &MonthCalendar::picked, this, [this] { Q_EMIT picked(dateTime()); });
     connect(m_calendar, &MonthCalendar::cancelled, this, &DateTimeView::cancelled);
+    setDateLook(DateLook());
 }
 
 void DateTimeView::setDateLook(const DateLook& look)

@@ -1,11 +1,13 @@
 #include "widgets/MonthCalendar.h"
 
 #include "foundation/Language.h"
+#include "widgets/ButtonWords_p.h"
 
 #include <QCalendarWidget>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -57,12 +59,13 @@ void MonthCalendar::setDateLook(const DateLook& look)
     // Weekday names in the user's language; the year is never shown by Qt here.
     m_days->setLocale(QLocale(isThai(look.languageId) ? QLocale::Thai : QLocale::English,
                               isThai(look.languageId) ? QLocale::Thailand : QLocale::UnitedStates));
-    m_previous->setToolTip(inLanguage(look.languageId, "เดือนก่อน (PgUp)", "Previous month (PgUp)"));
-    m_next->setToolTip(inLanguage(look.languageId, "เดือนถัดไป (PgDn)", "Next month (PgDn)"));
-    m_previous->setAccessibleName(inLanguage(look.languageId, "เดือนก่อน", "Previous month"));
-    m_next->setAccessibleName(inLanguage(look.languageId, "เดือนถัดไป", "Next month"));
+    setButtonWords(m_previous, inLanguage(look.languageId, "เดือนก่อน (PgUp)", "Previous month (PgUp)"));
+    setButtonWords(m_next, inLanguage(look.languageId, "เดือนถัดไป (PgDn)", "Next month (PgDn)"));
     m_title->setAccessibleName(inLanguage(look.languageId, "เดือน", "Month"));
+    // The table of days inside Qt's calendar is what takes the focus.
     m_days->setAccessibleName(inLanguage(look.languageId, "วัน", "Days"));
+    if (auto* days = m_days->findChild<QTableView*>())
+        days->setAccessibleName(m_days->accessibleName());
     showTitle();
 }
 

@@ -1,6 +1,7 @@
 #include "widgets/MonthYearView.h"
 
 #include "foundation/Language.h"
+#include "widgets/ButtonWords_p.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -70,8 +71,8 @@ MonthYearView::MonthYearView(QWidget* parent)
 void MonthYearView::setDateLook(const DateLook& look)
 {
     m_look = look;
-    findChild<QToolButton*>(QStringLiteral("previousYear"))->setAccessibleName(inLanguage(look.languageId, "ปีก่อน", "Previous year"));
-    findChild<QToolButton*>(QStringLiteral("nextYear"))->setAccessibleName(inLanguage(look.languageId, "ปีถัดไป", "Next year"));
+    setButtonWords(findChild<QToolButton*>(QStringLiteral("previousYear")), inLanguage(look.languageId, "ปีก่อน", "Previous year"));
+    setButtonWords(findChild<QToolButton*>(QStringLiteral("nextYear")), inLanguage(look.languageId, "ปีถัดไป", "Next year"));
     m_yearLabel->setAccessibleName(inLanguage(look.languageId, "ปี", "Year"));
     showChoice();
 }
