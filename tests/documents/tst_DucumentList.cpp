@@ -195,8 +195,7 @@ TEST_P(DucumentListTest, AChangedChoiceOrEnterInAFilterBoxReadsTheRowsAgain)
         t.act();
         EXPECT_TRUE(list.selectText().text().contains(t.sent)) << list.selectText().text().toStdString();
         EXPECT_TRUE(trace.composed().contains(list.selectText().text()));
-        if (t.documents != QStringList{"*"})
-            EXPECT_EQ(shown(list), t.documents);
+        EXPECT_TRUE(t.documents == QStringList{"*"} || shown(list) == t.documents) << shown(list).join(',').toStdString();
     }
 }
 
