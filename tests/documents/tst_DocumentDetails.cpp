@@ -23,10 +23,8 @@ protected:
         SampleCompanyTest::SetUp();
         if (IsSkipped())
             return;
-        runOnData({"INSERT INTO QD8TOptionValue (TOpVScope, TOpVScopeKey, TOpVTOptAlias, TOpVValue, TOpVNumber) VALUES ('COMPANY', '', "
-                   "'InventoryCustom1', 'สี', 0)",
-            "INSERT INTO QD8TOptionValue (TOpVScope, TOpVScopeKey, TOpVTOptAlias, TOpVValue, TOpVNumber) VALUES ('COMPANY', '', "
-            "'PurchaseCustom2', 'ขนาด', 0)"});
+        setCompanyOption("InventoryCustom1", "สี");
+        setCompanyOption("PurchaseCustom2", "ขนาด");
     }
     static QString daysAgo(int days) { return dateText(QDate::currentDate().addDays(-days), DateEra::Buddhist); }
 };

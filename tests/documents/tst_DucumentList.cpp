@@ -195,8 +195,7 @@ TEST_P(DucumentListTest, AChangedChoiceOrEnterInAFilterBoxReadsTheRowsAgain)
         t.act();
         EXPECT_TRUE(list.selectText().text().contains(t.sent)) << list.selectText().text().toStdString();
         EXPECT_TRUE(trace.composed().contains(list.selectText().text()));
-        if (t.documents != QStringList{"*"})
-            EXPECT_EQ(shown(list), t.documents);
+        EXPECT_TRUE(t.documents == QStringList{"*"} || shown(list) == t.documents) << shown(list).join(',').toStdString();
     }
 }
 
@@ -299,14 +298,14 @@ TEST_P(DucumentListTest, TheMenuOptionSwitchesToTheVariantDefinition)
 {
     define("PURPR", "TFDLFilterStatus", "''");
     define("PURPRMB", "TFDLFilterStatus, TFDLFilterCustomW", "'', ' AND TPRDTBraCode=''02'''");
-    runOnData({"DELETE FROM QD8TOptionValue WHERE TOpVTOptAlias='PURPRMenu'"});
+    setCompanyOption("PURPRMenu", "0");
     {
         DucumentList list;
         open(list, "PURPR");
         EXPECT_EQ(list.definition().alias, "PURPR");
         EXPECT_EQ(shown(list).size(), 8);
     }
-    runOnData({"INSERT INTO QD8TOptionValue (TOpVScope, TOpVScopeKey, TOpVTOptAlias, TOpVValue, TOpVNumber) VALUES ('COMPANY', '', 'PURPRMenu', '1', 1)"});
+    setCompanyOption("PURPRMenu", "1");
     DucumentList list;
     open(list, "PURPR");
     EXPECT_EQ(list.definition().alias, "PURPRMB");
@@ -432,8 +431,7 @@ TEST_P(DucumentListTest, CaptionsNameTheCompanysCustomFields)
 {
     runOnApp({"UPDATE QD8TFormDocList SET TFDLNameList='เลขที่,วันที่,{ICCustom1},ยืนยัน,อนุมัติ,ยกเลิก', TFDLOrderList='{ICCustom1},วันที่' "
               "WHERE TFDLTCmdAlias='TESTPR'"});
-    runOnData({"DELETE FROM QD8TOptionValue WHERE TOpVTOptAlias='ICCUSTOM1'",
-        "INSERT INTO QD8TOptionValue (TOpVScope, TOpVScopeKey, TOpVTOptAlias, TOpVValue, TOpVNumber) VALUES ('COMPANY', '', 'ICCUSTOM1', 'สี', 0)"});
+    setCompanyOption("ICCUSTOM1", "สี");
     DucumentList list;
     open(list, "TESTPR");
     EXPECT_EQ(list.NameList(), "เลขที่,วันที่,สี,ยืนยัน,อนุมัติ,ยกเลิก");

@@ -28,9 +28,7 @@ protected:
     }
     void setFilterMode(int mode)
     {
-        runOnData({QStringLiteral("INSERT INTO QD8TOptionValue (TOpVScope, TOpVScopeKey, TOpVTOptAlias, TOpVValue, TOpVNumber) "
-                                  "VALUES ('COMPANY', '', 'ICJOBFilterMode', '%1', %1)")
-                .arg(mode)});
+        setCompanyOption("ICJOBFilterMode", QString::number(mode));
         selector.SetFirst2(dataConnectionString(), 1);  // options are read when the session is handed over
     }
     // The keys of every row the list shows, through the pick list's own model.
@@ -68,7 +66,6 @@ TEST_P(JobSelectorTest, TheFilterModeTableListsItsJobTypesAndModesSevenAndEightF
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.mode);
-        runOnData({"DELETE FROM QD8TOptionValue WHERE TOpVTOptAlias='ICJOBFilterMode'"});
         setFilterMode(c.mode);
         const PickRequest request = selector.jobListRequest();
         EXPECT_TRUE(request.source.contains(QLatin1String(c.condition) + QStringLiteral(" ORDER BY TJobTPrjCode")));

@@ -249,23 +249,14 @@ TEST(LegendList, ReloadingForgetsTheEarlierList)
     EXPECT_TRUE(legend.isEmpty() && legend.notice().isEmpty());
 }
 
-class LegendOptionsTest : public SampleCompanyTest {
-protected:
-    void storeOption(const char* alias, const char* value) const
-    {
-        runOnData({QStringLiteral("DELETE FROM QD8TOptionValue WHERE TOpVTOptAlias='%1'").arg(QLatin1String(alias)),
-            QStringLiteral("INSERT INTO QD8TOptionValue (TOpVScope, TOpVScopeKey, TOpVTOptAlias, TOpVValue, TOpVNumber) "
-                           "VALUES ('COMPANY', '', '%1', '%2', %2)")
-                .arg(QLatin1String(alias), QLatin1String(value))});
-    }
-};
+class LegendOptionsTest : public SampleCompanyTest {};
 
 TEST_P(LegendOptionsTest, AlertKeywordsReadTheCompanyOptions)
 {
-    storeOption("BillProcessAlertTime", "5");
-    storeOption("POIncomingAlertDay", "3");
-    storeOption("SOIncomingAlertDay", "7");
-    storeOption("PORequireAckBeforeDelivery", "1");
+    setCompanyOption("BillProcessAlertTime", "5");
+    setCompanyOption("POIncomingAlertDay", "3");
+    setCompanyOption("SOIncomingAlertDay", "7");
+    setCompanyOption("PORequireAckBeforeDelivery", "1");
     DbDataObject options(dataConnectionString(), appConnectionString(), 1);
     LegendList legend;
     legend.setToday(Today);

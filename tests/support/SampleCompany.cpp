@@ -39,6 +39,15 @@ QString SampleCompanyTest::sessionConnectionString() const
     return dataConnectionString() + QStringLiteral(";Attach=") + ConnectionString::parse(appConnectionString()).sqliteFile();
 }
 
+void SampleCompanyTest::setCompanyOption(const QString& alias, const QString& value) const
+{
+    runOnData({QStringLiteral("DELETE FROM QD8TOptionValue WHERE TOpVTOptAlias='%1'").arg(alias),
+        QStringLiteral("INSERT INTO QD8TOptionValue (TOpVScope, TOpVScopeKey, TOpVTOptAlias, TOpVValue, TOpVNumber) "
+                       "VALUES ('COMPANY', '', '%1', '%2', %3)")
+            .arg(alias, QString(value).replace(QLatin1Char('\''), QLatin1String("''")))
+            .arg(value.trimmed().toDouble())});
+}
+
 void SampleCompanyTest::TearDown()
 {
     data.reset();

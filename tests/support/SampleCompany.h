@@ -26,6 +26,8 @@ protected:
     QString sessionConnectionString() const;
     void runOnData(const QStringList& statements) const { data->run(statements); }
     void runOnApp(const QStringList& statements) const { app->run(statements); }
+    // Stores a company option (its number read from the text), replacing any stored before.
+    void setCompanyOption(const QString& alias, const QString& value) const;
 
 private:
     std::unique_ptr<QTemporaryDir> folder;

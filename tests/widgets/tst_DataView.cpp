@@ -398,18 +398,17 @@ TEST_P(DataViewTest, KeysButtonsAndDoubleClickAskForTheirActions)
         EXPECT_EQ(asked, *k.action ? QStringList{k.action} : QStringList{});
     }
 
-    const struct { const char* objectName; DataView::Button button; const char* caption; const char* action; } buttons[] = {
-        {"btnAdd", DataView::Button::Add, "เพิ่ม", "add"},
-        {"btnEdit", DataView::Button::Edit, "แก้ไข", "edit"},
-        {"btnView", DataView::Button::View, "ดู", "view"},
-        {"btnDelete", DataView::Button::Delete, "ลบ", "delete"},
-        {"btnClose", DataView::Button::Close, "ปิด", "close"},
+    const struct { const char* objectName; DataView::Button button; const char* action; } buttons[] = {
+        {"btnAdd", DataView::Button::Add, "add"},
+        {"btnEdit", DataView::Button::Edit, "edit"},
+        {"btnView", DataView::Button::View, "view"},
+        {"btnDelete", DataView::Button::Delete, "delete"},
+        {"btnClose", DataView::Button::Close, "close"},
     };
     for (const auto& b : buttons) {
         SCOPED_TRACE(b.objectName);
         auto* button = view.findChild<QPushButton*>(QLatin1String(b.objectName));
         ASSERT_NE(button, nullptr);
-        EXPECT_EQ(button->text(), QString::fromUtf8(b.caption));
         asked.clear();
         button->click();
         EXPECT_EQ(asked, QStringList{b.action});

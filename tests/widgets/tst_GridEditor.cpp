@@ -251,18 +251,6 @@ TEST_F(GridEditorTest, DeleteMarksTheRowOrDropsANewOne)
     }
 }
 
-TEST_F(GridEditorTest, ClearMarksDropsDeletedRowsAndForgetsChanges)
-{
-    grid.DeleteRow(1);
-    grid.setTextMatrix(2, 2, QStringLiteral("ฝ่ายบัญชีและการเงิน"));
-    grid.AddRow();
-    grid.ClearMarks();
-    ASSERT_EQ(grid.Rows(), 2);
-    EXPECT_EQ(grid.TextMatrix(1, 1), QStringLiteral("D02"));
-    for (int row = 1; row <= grid.Rows(); ++row)
-        EXPECT_TRUE(grid.RowMark(row).isEmpty() && !grid.IsNewRow(row)) << row;
-}
-
 TEST_F(GridEditorTest, F2ReachesTheHostWhichMayPutAPickedValueIntoTheCell)
 {
     QList<int> codes;

@@ -416,8 +416,8 @@ TEST_P(PickListTest, EveryWidgetHasAnAccessibleName)
             continue;
         ++reachable;
         // The parts Qt builds into the line edit and the table are left out.
-        if (!dialog.searchBox()->isAncestorOf(w) && !dialog.view()->isAncestorOf(w))
-            EXPECT_FALSE(w->accessibleName().isEmpty()) << w->metaObject()->className();
+        EXPECT_TRUE(dialog.searchBox()->isAncestorOf(w) || dialog.view()->isAncestorOf(w) || !w->accessibleName().isEmpty())
+            << w->metaObject()->className();
     }
     EXPECT_GE(reachable, 6);
 }

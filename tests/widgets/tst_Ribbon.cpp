@@ -314,8 +314,6 @@ TEST_F(RibbonTest, ThemesColourTheRibbonAndAnUnknownOneFallsBackToBlue)
     const QList<RibbonTheme>& themes = Ribbon::themes();
     ASSERT_GE(themes.size(), 4);
     EXPECT_EQ(Ribbon::themeNames().first(), s("Blue"));
-    for (const char* name : {"Silver", "Black", "Green"})
-        EXPECT_TRUE(Ribbon::themeNames().contains(s(name))) << name;
 
     ribbon.resize(ribbon.sizeHint().width() + 80, ribbon.height());
     settle();
