@@ -170,6 +170,12 @@ TEST_P(DesignerControl, PlacedWithoutDatabaseOrDialog)
             EXPECT_EQ(again->property(key.toLatin1().constData()), widget->property(key.toLatin1().constData())) << key.toStdString();
         }
     }
+    // Designer reads every property it shows and writes back those a form keeps.
+    for (int i = 0; i < meta->propertyCount(); ++i) {
+        const QMetaProperty property = meta->property(i);
+        if (property.isDesignable() && property.isWritable() && property.isStored())
+            property.write(widget, property.read(widget));
+    }
     form.show();
     QTest::qWait(150);
     widget->resize(widget->size() + QSize(40, 30));  // Designer's resize handles
