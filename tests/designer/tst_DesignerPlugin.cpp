@@ -157,6 +157,9 @@ TEST_P(DesignerControl, PlacedWithoutDatabaseOrDialog)
             value = 1;
         ASSERT_TRUE(widget->setProperty(name.toLatin1().constData(), value));
         EXPECT_EQ(widget->property(name.toLatin1().constData()), value) << name.toStdString();
+        // Kept as typed: a connection string or a group is not a text for Qt's translators.
+        if (property.metaType().id() == QMetaType::QString)
+            EXPECT_TRUE(plugin->domXml().contains(QStringLiteral("name=\"%1\" notr=\"true\"").arg(name))) << name.toStdString();
     }
     if (hosted) {
         for (const char* name : SessionOnly)
