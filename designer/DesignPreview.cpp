@@ -16,7 +16,6 @@ public:
         , m_name(name)
         , m_hint(hint)
     {
-        setObjectName(QStringLiteral("qd8_design_preview"));
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setAttribute(Qt::WA_NoSystemBackground);
         setFocusPolicy(Qt::NoFocus);
