@@ -25,16 +25,10 @@ const char* const Controls[] = {"ShortCutBar", "DocumentToolBar", "NUVRibbon", "
     "GLControl", "CreditLimit", "PointControl", "ReportFilter", "HardCopyScan", "ClientCapture", "WebBrowser",
     "QD8ControlCenter", "DataView", "GridEditor", "Ribbon", "DateEdit", "DateTimeView", "MonthYearView", "MonthCalendar"};
 
-// What Designer shows and a .ui form keeps; the keys a control also has in its property bag
-// must come back through writeProperties/readProperties.
-const QStringList QuickForm{"ConnectionString", "DataConnectionString", "QuickGroup"};
-const QStringList Options{"ConnectionString", "DataConnectionString", "OptionGroup"};
-const QStringList Launcher{"TodayPage", "AppPath", "SystemFolder"};
-const QHash<QString, QStringList> DesignTime{{"ShortCutBar", {"ConnectionString", "CommandGroup", "IconPath"}},
-    {"DocumentToolBar", Launcher}, {"NUVRibbon", Launcher}, {"QuickGrid", QuickForm}, {"CustomData", QuickForm},
-    {"CustomOption", Options}, {"BranchOption", Options}, {"HostOption", Options}, {"UserOption", Options},
-    {"DucumentList", {"CommandGroup", "REPORTGROUP"}}, {"MasterList", {"CommandGroup"}}, {"NUVDiagram", {"ConnectionString"}},
-    {"GLControl", {"FormatGroupAlias"}}, {"ReportFilter", {"RLID"}}, {"ClientCapture", {"SaveFormat"}}};
+// Designer shows and a .ui form keeps what a control writes to its property bag, and these.
+const QHash<QString, QStringList> Settings{{"DucumentList", {"CommandGroup", "REPORTGROUP"}},
+    {"NUVDiagram", {"ConnectionString"}}, {"GLControl", {"FormatGroupAlias"}}, {"ReportFilter", {"RLID"}},
+    {"ClientCapture", {"SaveFormat"}}};
 
 QHash<QString, QDesignerCustomWidgetInterface*> plugins()
 {
@@ -72,8 +66,12 @@ TEST_P(DesignerControl, PlacedWithoutDatabaseOrDialog)
     modalWatch.start(20);
     QWidget form;
     QWidget* widget = plugin->createWidget(&form);
+    auto* hosted = qobject_cast<HostedControl*>(widget);
+    PropertyBag bag;
+    if (hosted)
+        hosted->writeProperties(bag);
     const QMetaObject* meta = widget->metaObject();
-    for (const QString& name : DesignTime.value(GetParam())) {
+    for (const QString& name : Settings.value(GetParam()) + bag.keys()) {
         const QMetaProperty property = meta->property(meta->indexOfProperty(name.toLatin1().constData()));
         EXPECT_TRUE(property.isDesignable() && property.isStored()) << name.toStdString();
         const bool text = property.metaType().id() == QMetaType::QString;
@@ -82,7 +80,7 @@ TEST_P(DesignerControl, PlacedWithoutDatabaseOrDialog)
         // Kept as typed: a connection string or a group is not a text for Qt's translators.
         EXPECT_TRUE(!text || plugin->domXml().contains(QStringLiteral("name=\"%1\" notr=\"true\"").arg(name)));
     }
-    if (auto* hosted = qobject_cast<HostedControl*>(widget)) {
+    if (hosted) {
         for (const char* name : {"AppConnectionString", "UserID", "UserLoginName", "UserLoginPassword", "hWnd"})
             EXPECT_FALSE(meta->property(meta->indexOfProperty(name)).isDesignable()) << name;
         PropertyBag saved;
