@@ -32,21 +32,25 @@ struct PrintCommand {
 //
 // The control keeps its own copy of the session; the setters store and never validate, so
 // a wrong connection string shows only when the control opens a connection.
+//
+// Designer shows and a .ui form keeps the design-time strings (connection strings, folders,
+// command group); the run-time session (user, password, application database) is not
+// designable, and hWnd would give the control a native window inside Designer's form.
 class HostedControl : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString ConnectionString READ ConnectionString WRITE setConnectionString)
-    Q_PROPERTY(QString AppConnectionString READ AppConnectionString WRITE setAppConnectionString)
+    Q_PROPERTY(QString AppConnectionString READ AppConnectionString WRITE setAppConnectionString DESIGNABLE false)
     Q_PROPERTY(QString DataConnectionString READ DataConnectionString WRITE setDataConnectionString)
-    Q_PROPERTY(qint32 UserID READ UserID WRITE setUserID)
-    Q_PROPERTY(QString UserLoginName READ UserLoginName WRITE setUserLoginName)
-    Q_PROPERTY(QString UserLoginPassword READ UserLoginPassword WRITE setUserLoginPassword)
+    Q_PROPERTY(qint32 UserID READ UserID WRITE setUserID DESIGNABLE false)
+    Q_PROPERTY(QString UserLoginName READ UserLoginName WRITE setUserLoginName DESIGNABLE false)
+    Q_PROPERTY(QString UserLoginPassword READ UserLoginPassword WRITE setUserLoginPassword DESIGNABLE false)
     Q_PROPERTY(QString AppPath READ AppPath WRITE setAppPath)
     Q_PROPERTY(QString SystemFolder READ SystemFolder WRITE setSystemFolder)
-    Q_PROPERTY(QString SpecFolder READ SpecFolder WRITE setSpecFolder)
-    Q_PROPERTY(QString ImageFolder READ ImageFolder WRITE setImageFolder)
+    Q_PROPERTY(QString SpecFolder READ SpecFolder WRITE setSpecFolder DESIGNABLE false)
+    Q_PROPERTY(QString ImageFolder READ ImageFolder WRITE setImageFolder DESIGNABLE false)
     Q_PROPERTY(QString IconPath READ IconPath WRITE setIconPath)
     Q_PROPERTY(QString CommandGroup READ CommandGroup WRITE setCommandGroup)
-    Q_PROPERTY(qlonglong hWnd READ hWnd)
+    Q_PROPERTY(qlonglong hWnd READ hWnd DESIGNABLE false STORED false)
 
 public:
     explicit HostedControl(QWidget* parent = nullptr);
