@@ -67,12 +67,13 @@ struct ShapeKey {
     const QFont* font;
     float width;
     int align;
+    bool fits;
     bool operator==(const ShapeKey&) const = default;
 };
 
 size_t qHash(const ShapeKey& key, size_t seed = 0)
 {
-    return qHashMulti(seed, key.text, key.font, key.width, key.align);
+    return qHashMulti(seed, key.text, key.font, key.width, key.align, key.fits);
 }
 
 class PainterCanvas final : public PageCanvas {
@@ -169,16 +170,16 @@ struct ReportDocument::Private {
     // their sum is a text's width (more for Thai, whose marks take no room beside a letter):
     // most cells are known to fit without shaping them.
     mutable std::vector<float> advances = std::vector<float>(0x10000, -1);
-    // Printable ASCII in the body font, glyph and advance per character (glyph 0: not in the
-    // font): figures, dates and codes are placed from these without shaping.
+    // The body font's glyph of each printable ASCII character (0: not in the font): figures,
+    // dates and codes are placed from these and the advances without shaping.
     QRawFont bodyRaw = QRawFont::fromFont(body);
     std::array<quint32, 128> asciiGlyphs{};
-    std::array<qreal, 128> asciiAdvances{};
     mutable std::vector<quint32> spanGlyphs;
     mutable std::vector<QPointF> spanPositions;
     mutable QHash<ShapeKey, QList<QGlyphRun>> shaped;
 
     void prepareLayout();
+    qreal advanceOf(QChar c) const;
     qreal advanceSum(const QString& text) const;
     bool surelyFits(const QString& text, qreal textWidth) const;
     int lineCount(const QString& text, qreal textWidth, const QFont& font) const;
@@ -237,22 +238,22 @@ void ReportDocument::Private::prepareLayout()
     for (char16_t c = 0x20; c < 0x7f; ++c)
         ascii += QChar(c);
     const QList<quint32> glyphs = bodyRaw.glyphIndexesForString(ascii);
-    const QList<QPointF> advances = bodyRaw.advancesForGlyphIndexes(glyphs);
-    for (qsizetype i = 0; i < glyphs.size() && i < advances.size(); ++i) {
-        asciiGlyphs[0x20 + i] = glyphs[i];
-        asciiAdvances[0x20 + i] = advances[i].x();
-    }
+    std::copy_n(glyphs.cbegin(), qMin<qsizetype>(glyphs.size(), 0x7f - 0x20), asciiGlyphs.begin() + 0x20);
+}
+
+qreal ReportDocument::Private::advanceOf(QChar c) const
+{
+    float& advance = advances[c.unicode()];
+    if (advance < 0)
+        advance = c.isSurrogate() ? 1e6f : float(bodyMetrics.horizontalAdvance(c));
+    return advance;
 }
 
 qreal ReportDocument::Private::advanceSum(const QString& text) const
 {
     qreal sum = 0;
-    for (QChar c : text) {
-        float& advance = advances[c.unicode()];
-        if (advance < 0)
-            advance = c.isSurrogate() ? 1e6f : float(bodyMetrics.horizontalAdvance(c));
-        sum += advance;
-    }
+    for (QChar c : text)
+        sum += advanceOf(c);
     return sum;
 }
 
@@ -442,7 +443,7 @@ bool ReportDocument::Private::plainAscii(const QString& text) const
 const QList<QGlyphRun>& ReportDocument::Private::shape(const QString& text, const QFont& font, qreal width, Qt::Alignment align,
     bool fits) const
 {
-    const ShapeKey key{text, &font, float(width), int(align) | (fits ? 0x10000 : 0)};
+    const ShapeKey key{text, &font, float(width), int(align), fits};
     if (const auto found = shaped.constFind(key); found != shaped.cend())
         return *found;
     if (shaped.size() >= ShapedTexts)
@@ -475,10 +476,9 @@ void ReportDocument::Private::drawText(PageCanvas& canvas, const QRectF& box, co
         spanPositions.resize(n);
         qreal x = 0;
         for (qsizetype i = 0; i < n; ++i) {
-            const char16_t c = text[i].unicode();
-            spanGlyphs[i] = asciiGlyphs[c];
+            spanGlyphs[i] = asciiGlyphs[text[i].unicode()];
             spanPositions[i] = QPointF(x, bodyMetrics.ascent());
-            x += asciiAdvances[c];
+            x += advanceOf(text[i]);
         }
         const qreal shift = align & Qt::AlignRight ? box.width() - x : align & Qt::AlignHCenter ? (box.width() - x) / 2 : 0;
         canvas.glyphs(box.topLeft() + QPointF(shift, 0), {bodyRaw, spanGlyphs.data(), spanPositions.data(), n});
