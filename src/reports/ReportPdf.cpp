@@ -11,7 +11,7 @@ namespace {
 // which the fastest level already shrinks about sixfold.
 constexpr int CompressionLevel = 1;
 // A glyph this far (points) from where the previous one left the pen is moved there.
-constexpr qreal Slack = 0.02;
+constexpr qreal Slack = 0.05;
 
 // The faces' tables a PDF viewer reads from an embedded TrueType font, in tag order.
 const char* const FontTables[] = {"OS/2", "cmap", "cvt ", "fpgm", "glyf", "head", "hhea", "hmtx", "loca", "maxp", "name",
