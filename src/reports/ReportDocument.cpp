@@ -474,10 +474,11 @@ void ReportDocument::Private::drawText(PageCanvas& canvas, const QRectF& box, co
         const qsizetype n = text.size();
         spanGlyphs.resize(n);
         spanPositions.resize(n);
+        const qreal baseline = bodyMetrics.ascent();
         qreal x = 0;
         for (qsizetype i = 0; i < n; ++i) {
             spanGlyphs[i] = asciiGlyphs[text[i].unicode()];
-            spanPositions[i] = QPointF(x, bodyMetrics.ascent());
+            spanPositions[i] = QPointF(x, baseline);
             x += advanceOf(text[i]);
         }
         const qreal shift = align & Qt::AlignRight ? box.width() - x : align & Qt::AlignHCenter ? (box.width() - x) / 2 : 0;

@@ -54,27 +54,42 @@ quint32 checksum(const QByteArray& data)
 // A number as PDF content takes it: at most two decimals, a blank after it.
 void appendNumber(QByteArray& out, qreal value)
 {
+    char text[32];
+    char* end = text + sizeof text;
+    char* at = end;
+    *--at = ' ';
     qint64 hundredths = qRound64(value * 100);
-    if (hundredths < 0) {
-        out += '-';
+    const bool negative = hundredths < 0;
+    if (negative)
         hundredths = -hundredths;
+    if (const int cents = int(hundredths % 100)) {
+        if (cents % 10)
+            *--at = char('0' + cents % 10);
+        *--at = char('0' + cents / 10);
+        *--at = '.';
     }
-    char digits[24];
-    int n = 0;
     qint64 whole = hundredths / 100;
     do {
-        digits[n++] = char('0' + whole % 10);
+        *--at = char('0' + whole % 10);
         whole /= 10;
     } while (whole);
-    while (n)
-        out += digits[--n];
-    if (const int cents = int(hundredths % 100)) {
-        out += '.';
-        out += char('0' + cents / 10);
-        if (cents % 10)
-            out += char('0' + cents % 10);
+    if (negative)
+        *--at = '-';
+    out.append(at, end - at);
+}
+
+// A glyph code in a literal string: two bytes, escaped where a string would end or a line
+// ending be read differently.
+void appendCode(QByteArray& out, quint32 glyph)
+{
+    char bytes[4];
+    int n = 0;
+    for (const char c : {char(glyph >> 8 & 0xff), char(glyph & 0xff)}) {
+        if (c == '(' || c == ')' || c == '\\' || c == '\r')
+            bytes[n++] = '\\';
+        bytes[n++] = c == '\r' ? 'r' : c;
     }
-    out += ' ';
+    out.append(bytes, n);
 }
 
 void appendHex4(QByteArray& out, quint32 v)
@@ -254,7 +269,7 @@ ReportPdf::Face* ReportPdf::faceOf(const QRawFont& font)
 void ReportPdf::closeArray()
 {
     if (m_inString)
-        m_text += '>';
+        m_text += ')';
     if (m_inArray)
         m_text += "]TJ\n";
     m_inArray = m_inString = false;
@@ -300,15 +315,15 @@ void ReportPdf::glyphs(const QPointF& origin, const GlyphSpan& span)
             placed = true;
         } else if (qAbs(x - m_penX) > Slack) {
             if (m_inString)
-                m_text += '>';
+                m_text += ')';
             m_inString = false;
             appendNumber(m_text, (m_penX - x) / scale);
             m_penX = x;
         }
         if (!m_inString)
-            m_text += '<';
+            m_text += '(';
         m_inString = true;
-        appendHex4(m_text, glyph);
+        appendCode(m_text, glyph);
         face->used[glyph] = true;
         m_penX += face->widths[glyph] * scale;
     }

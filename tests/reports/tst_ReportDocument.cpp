@@ -62,7 +62,8 @@ protected:
     ReportDefinition definition(int languageId) const
     {
         ReportDefinition s;
-        s.title = languageId == 0 ? "ใบแจ้งหนี้ตามลูกค้า" : "Invoices by customer";
+        // E, F, * and y are the glyph codes a PDF string escapes: (, ), CR and backslash.
+        s.title = languageId == 0 ? "ใบแจ้งหนี้ตามลูกค้า" : "Invoices by customer (FOB, E*)";
         s.company = "บริษัท ตัวอย่าง จำกัด";
         s.criteria = languageId == 0 ? "วันที่ 01/01/2569 ถึง 31/01/2569" : "Date 01/01/2026 to 31/01/2026";
         s.sql = "SELECT i.TIvoNo, i.TIvoDate, i.TIvoTARNCode, a.TARNName, i.TIvoDescription, i.TIvoCardStatus, i.TIvoAmount "
