@@ -758,23 +758,25 @@ bool ReportDocument::writePdf(const QString& fileName, const std::function<bool(
     for (const bool own : {true, false}) {
         QSaveFile file(fileName);
         bool written = false, embeddable = true;
-        if (file.open(QIODevice::WriteOnly) && own) {
-            ReportPdf pdf(&file, d->page, d->definition.title, creator);
-            written = true;
-            for (int p = 0; written && p < pageCount(); ++p) {
-                pdf.beginPage();
-                d->drawPage(pdf, p);
-                pdf.endPage();
-                written = pdf.embeddable() && (!step || step(p + 1));
+        if (file.open(QIODevice::WriteOnly)) {
+            if (own) {
+                ReportPdf pdf(&file, d->page, d->definition.title, creator);
+                written = true;
+                for (int p = 0; written && p < pageCount(); ++p) {
+                    pdf.beginPage();
+                    d->drawPage(pdf, p);
+                    pdf.endPage();
+                    written = pdf.embeddable() && (!step || step(p + 1));
+                }
+                written = written && pdf.finish();
+                embeddable = pdf.embeddable();
+            } else {
+                QPdfWriter writer(&file);
+                writer.setPageLayout(pageLayout());
+                writer.setTitle(d->definition.title);
+                writer.setCreator(creator);
+                written = paint(writer, step);
             }
-            written = written && pdf.finish();
-            embeddable = pdf.embeddable();
-        } else if (file.isOpen()) {
-            QPdfWriter writer(&file);
-            writer.setPageLayout(pageLayout());
-            writer.setTitle(d->definition.title);
-            writer.setCreator(creator);
-            written = paint(writer, step);
         }
         if (written && file.commit())
             return true;
