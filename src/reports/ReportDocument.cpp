@@ -8,10 +8,12 @@
 #include "foundation/RowStore.h"
 #include "foundation/TableExport.h"
 #include "foundation/Values.h"
+#include "reports/ReportPdf_p.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFontMetricsF>
+#include <QGlyphRun>
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <QPdfWriter>
@@ -20,6 +22,7 @@
 #include <QTextLayout>
 #include <QTimer>
 #include <algorithm>
+#include <array>
 #include <vector>
 
 namespace qd8 {
@@ -35,6 +38,8 @@ constexpr int BodySize = 9;
 constexpr int SmallSize = 8;
 constexpr int CompanySize = 11;
 constexpr int TitleSize = 14;
+// Shaped texts kept for drawing again (headings, captions, repeated Thai cells).
+constexpr qsizetype ShapedTexts = 4096;
 // Rows read per batch, and how long one step of start() may hold the event loop.
 constexpr qsizetype BatchRows = 500;
 constexpr qint64 StepMs = 30;
@@ -54,6 +59,40 @@ struct Item {
 struct Group {
     QString heading;
     std::vector<Currency> sums;  // per column of the ReportDefinition
+};
+
+// A text as it was shaped for a box.
+struct ShapeKey {
+    QString text;
+    const QFont* font;
+    float width;
+    int align;
+    bool fits;
+    bool operator==(const ShapeKey&) const = default;
+};
+
+size_t qHash(const ShapeKey& key, size_t seed = 0)
+{
+    return qHashMulti(seed, key.text, key.font, key.width, key.align, key.fits);
+}
+
+class PainterCanvas final : public PageCanvas {
+public:
+    explicit PainterCanvas(QPainter& painter)
+        : m_painter(painter)
+    {
+    }
+    void glyphs(const QPointF& origin, const GlyphSpan& span) override
+    {
+        QGlyphRun run;
+        run.setRawFont(span.font);
+        run.setRawData(span.glyphs, span.positions, int(span.count));
+        m_painter.drawGlyphRun(origin, run);
+    }
+    void line(const QPointF& from, const QPointF& to) override { m_painter.drawLine(from, to); }
+
+private:
+    QPainter& m_painter;
 };
 
 QFont reportFont(int size, bool bold = false)
@@ -131,8 +170,16 @@ struct ReportDocument::Private {
     // their sum is a text's width (more for Thai, whose marks take no room beside a letter):
     // most cells are known to fit without shaping them.
     mutable std::vector<float> advances = std::vector<float>(0x10000, -1);
+    // The body font's glyph of each printable ASCII character (0: not in the font): figures,
+    // dates and codes are placed from these and the advances without shaping.
+    QRawFont bodyRaw = QRawFont::fromFont(body);
+    std::array<quint32, 128> asciiGlyphs{};
+    mutable std::vector<quint32> spanGlyphs;
+    mutable std::vector<QPointF> spanPositions;
+    mutable QHash<ShapeKey, QList<QGlyphRun>> shaped;
 
     void prepareLayout();
+    qreal advanceOf(QChar c) const;
     qreal advanceSum(const QString& text) const;
     bool surelyFits(const QString& text, qreal textWidth) const;
     int lineCount(const QString& text, qreal textWidth, const QFont& font) const;
@@ -150,12 +197,15 @@ struct ReportDocument::Private {
     bool step(qint64 budgetMs);
     void fail(const QString& message);
 
+    bool plainAscii(const QString& text) const;
+    const QList<QGlyphRun>& shape(const QString& text, const QFont& font, qreal width, Qt::Alignment align, bool fits) const;
     // `fits`: the text is known to take one line.
-    void drawText(QPainter& p, const QRectF& box, const QString& text, Qt::Alignment align, const QFont& font,
+    void drawText(PageCanvas& canvas, const QRectF& box, const QString& text, Qt::Alignment align, const QFont& font,
         bool fits = false) const;
-    void drawHeading(QPainter& p, int pageNumber) const;
-    void drawItem(QPainter& p, const Item& item) const;
-    void drawTotals(QPainter& p, const Item& item, const QString& label, const std::vector<Currency>& sums) const;
+    void drawHeading(PageCanvas& canvas, int pageNumber) const;
+    void drawItem(PageCanvas& canvas, const Item& item) const;
+    void drawTotals(PageCanvas& canvas, const Item& item, const QString& label, const std::vector<Currency>& sums) const;
+    void drawPage(PageCanvas& canvas, int page) const;
     QString pageText(int pageNumber) const;
 };
 
@@ -183,17 +233,27 @@ void ReportDocument::Private::prepareLayout()
     bodyTop = Margin + headingHeight + HeadingGap + columnsHeight;
     bodyBottom = page.height() - Margin - QFontMetricsF(small).lineSpacing() - HeadingGap;
     y = bodyTop;
+
+    QString ascii;
+    for (char16_t c = 0x20; c < 0x7f; ++c)
+        ascii += QChar(c);
+    const QList<quint32> glyphs = bodyRaw.glyphIndexesForString(ascii);
+    std::copy_n(glyphs.cbegin(), qMin<qsizetype>(glyphs.size(), 0x7f - 0x20), asciiGlyphs.begin() + 0x20);
+}
+
+qreal ReportDocument::Private::advanceOf(QChar c) const
+{
+    float& advance = advances[c.unicode()];
+    if (advance < 0)
+        advance = c.isSurrogate() ? 1e6f : float(bodyMetrics.horizontalAdvance(c));
+    return advance;
 }
 
 qreal ReportDocument::Private::advanceSum(const QString& text) const
 {
     qreal sum = 0;
-    for (QChar c : text) {
-        float& advance = advances[c.unicode()];
-        if (advance < 0)
-            advance = c.isSurrogate() ? 1e6f : float(bodyMetrics.horizontalAdvance(c));
-        sum += advance;
-    }
+    for (QChar c : text)
+        sum += advanceOf(c);
     return sum;
 }
 
@@ -375,41 +435,62 @@ bool ReportDocument::Private::step(qint64 budgetMs)
     return state == State::Reading;
 }
 
-void ReportDocument::Private::drawText(QPainter& p, const QRectF& box, const QString& text, Qt::Alignment align,
-    const QFont& font, bool fits) const
+bool ReportDocument::Private::plainAscii(const QString& text) const
 {
-    if (text.isEmpty())
-        return;
-    if (p.font() != font)
-        p.setFont(font);
-    if (fits) {
-        // Drawn at its baseline: no line breaking to work out for a text known to fit.
-        qreal x = box.left();
-        if (!(align & Qt::AlignLeft)) {
-            const bool plain = font == body && std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 0x80; });
-            const qreal w = plain ? advanceSum(text) : QFontMetricsF(font).horizontalAdvance(text);
-            x = align & Qt::AlignRight ? box.right() - w : box.left() + (box.width() - w) / 2;
-        }
-        p.drawText(QPointF(x, box.top() + QFontMetricsF(font).ascent()), text);
-        return;
-    }
-    if (QFontMetricsF(font).horizontalAdvance(text) <= box.width()) {
-        p.drawText(box, int(align | Qt::AlignTop | Qt::TextSingleLine), text);
-        return;
-    }
+    return std::all_of(text.cbegin(), text.cend(), [this](QChar c) { return c.unicode() < 0x80 && asciiGlyphs[c.unicode()] != 0; });
+}
+
+const QList<QGlyphRun>& ReportDocument::Private::shape(const QString& text, const QFont& font, qreal width, Qt::Alignment align,
+    bool fits) const
+{
+    const ShapeKey key{text, &font, float(width), int(align), fits};
+    if (const auto found = shaped.constFind(key); found != shaped.cend())
+        return *found;
+    if (shaped.size() >= ShapedTexts)
+        shaped.clear();
+    // Qt breaks Thai between words (libthai), other scripts at blanks.
     QTextLayout layout(text, font);
     QTextOption option(align);
-    option.setWrapMode(QTextOption::WordWrap);
+    option.setWrapMode(fits ? QTextOption::NoWrap : QTextOption::WordWrap);
     layout.setTextOption(option);
     layout.beginLayout();
     qreal lineY = 0;
     for (QTextLine l = layout.createLine(); l.isValid(); l = layout.createLine()) {
-        l.setLineWidth(box.width());
+        l.setLineWidth(width);
         l.setPosition(QPointF(0, lineY));
         lineY += l.height();
     }
     layout.endLayout();
-    layout.draw(&p, box.topLeft());
+    return *shaped.insert(key, layout.glyphRuns());
+}
+
+void ReportDocument::Private::drawText(PageCanvas& canvas, const QRectF& box, const QString& text, Qt::Alignment align,
+    const QFont& font, bool fits) const
+{
+    if (text.isEmpty())
+        return;
+    if (fits && &font == &body && plainAscii(text)) {
+        // Figures, dates and codes: placed from the character table, no shaping.
+        const qsizetype n = text.size();
+        spanGlyphs.resize(n);
+        spanPositions.resize(n);
+        const qreal baseline = bodyMetrics.ascent();
+        qreal x = 0;
+        for (qsizetype i = 0; i < n; ++i) {
+            spanGlyphs[i] = asciiGlyphs[text[i].unicode()];
+            spanPositions[i] = QPointF(x, baseline);
+            x += advanceOf(text[i]);
+        }
+        const qreal shift = align & Qt::AlignRight ? box.width() - x : align & Qt::AlignHCenter ? (box.width() - x) / 2 : 0;
+        canvas.glyphs(box.topLeft() + QPointF(shift, 0), {bodyRaw, spanGlyphs.data(), spanPositions.data(), n});
+        return;
+    }
+    for (const QGlyphRun& run : shape(text, font, box.width(), align, fits)) {
+        const QRawFont runFont = run.rawFont();
+        const QList<quint32> glyphs = run.glyphIndexes();
+        const QList<QPointF> positions = run.positions();
+        canvas.glyphs(box.topLeft(), {runFont, glyphs.constData(), positions.constData(), qMin(glyphs.size(), positions.size())});
+    }
 }
 
 QString ReportDocument::Private::pageText(int pageNumber) const
@@ -419,7 +500,7 @@ QString ReportDocument::Private::pageText(int pageNumber) const
     return inLanguage(definition.languageId, "หน้า %1 / %2", "Page %1 of %2").arg(pageNumber).arg(pageStarts.size());
 }
 
-void ReportDocument::Private::drawHeading(QPainter& p, int pageNumber) const
+void ReportDocument::Private::drawHeading(PageCanvas& p, int pageNumber) const
 {
     const qreal printable = page.width() - 2 * Margin;
     qreal top = Margin;
@@ -433,18 +514,18 @@ void ReportDocument::Private::drawHeading(QPainter& p, int pageNumber) const
         drawText(p, QRectF(Margin, top, printable, bodyTop), definition.criteria, Qt::AlignLeft, body);
 
     const qreal captionsTop = bodyTop - columnsHeight;
-    p.drawLine(QPointF(Margin, captionsTop), QPointF(page.width() - Margin, captionsTop));
+    p.line(QPointF(Margin, captionsTop), QPointF(page.width() - Margin, captionsTop));
     for (int c = 0; c < definition.columns.size(); ++c) {
         const QRectF box(left[c] + Padding, captionsTop + Padding, width[c] - 2 * Padding, columnsHeight);
         drawText(p, box, definition.columns[c].caption, alignmentOf(definition.columns[c].kind), bodyBold);
     }
-    p.drawLine(QPointF(Margin, bodyTop), QPointF(page.width() - Margin, bodyTop));
+    p.line(QPointF(Margin, bodyTop), QPointF(page.width() - Margin, bodyTop));
 
     const qreal footer = QFontMetricsF(small).lineSpacing();
     drawText(p, QRectF(Margin, page.height() - Margin - footer, printable, footer), pageText(pageNumber), Qt::AlignRight, small);
 }
 
-void ReportDocument::Private::drawTotals(QPainter& p, const Item& item, const QString& label, const std::vector<Currency>& sums) const
+void ReportDocument::Private::drawTotals(PageCanvas& p, const Item& item, const QString& label, const std::vector<Currency>& sums) const
 {
     int firstTotal = int(definition.columns.size());
     for (int c = 0; c < definition.columns.size(); ++c) {
@@ -452,7 +533,7 @@ void ReportDocument::Private::drawTotals(QPainter& p, const Item& item, const QS
             firstTotal = qMin(firstTotal, c);
             const QRectF box(left[c] + Padding, item.y + Padding, width[c] - 2 * Padding, line);
             drawText(p, box, amountText(sums[c], definition.columns[c].kind), Qt::AlignRight, bodyBold);
-            p.drawLine(QPointF(left[c] + Padding, item.y + 1), QPointF(left[c] + width[c] - Padding, item.y + 1));
+            p.line(QPointF(left[c] + Padding, item.y + 1), QPointF(left[c] + width[c] - Padding, item.y + 1));
         }
     }
     // The label takes the columns before the first total.
@@ -460,7 +541,7 @@ void ReportDocument::Private::drawTotals(QPainter& p, const Item& item, const QS
     drawText(p, QRectF(Margin + Padding, item.y + Padding, qMax<qreal>(labelWidth, 0), line), label, Qt::AlignLeft, bodyBold);
 }
 
-void ReportDocument::Private::drawItem(QPainter& p, const Item& item) const
+void ReportDocument::Private::drawItem(PageCanvas& p, const Item& item) const
 {
     switch (item.kind) {
     case ItemKind::Row: {
@@ -486,6 +567,14 @@ void ReportDocument::Private::drawItem(QPainter& p, const Item& item) const
         drawTotals(p, item, inLanguage(definition.languageId, "รวมทั้งสิ้น", "Grand total"), grandTotal);
         return;
     }
+}
+
+void ReportDocument::Private::drawPage(PageCanvas& canvas, int page) const
+{
+    drawHeading(canvas, page + 1);
+    const qsizetype end = page + 1 < qsizetype(pageStarts.size()) ? pageStarts[page + 1] : qsizetype(items.size());
+    for (qsizetype i = pageStarts[page]; i < end; ++i)
+        drawItem(canvas, items[i]);
 }
 
 ReportDocument::ReportDocument(const ReportDefinition& definition, QObject* parent)
@@ -639,10 +728,8 @@ void ReportDocument::paintPage(QPainter& painter, int page) const
         return;
     painter.save();
     painter.setPen(QPen(Qt::black, 0.5));
-    d->drawHeading(painter, page + 1);
-    const qsizetype end = page + 1 < pageCount() ? d->pageStarts[page + 1] : qsizetype(d->items.size());
-    for (qsizetype i = d->pageStarts[page]; i < end; ++i)
-        d->drawItem(painter, d->items[i]);
+    PainterCanvas canvas(painter);
+    d->drawPage(canvas, page);
     painter.restore();
 }
 
@@ -665,20 +752,41 @@ bool ReportDocument::paint(QPagedPaintDevice& device, const std::function<bool(i
 
 bool ReportDocument::writePdf(const QString& fileName, const std::function<bool(int page)>& step)
 {
-    QSaveFile file(fileName);
-    bool written = false;
-    if (file.open(QIODevice::WriteOnly)) {
-        QPdfWriter writer(&file);
-        writer.setPageLayout(pageLayout());
-        writer.setTitle(d->definition.title);
-        writer.setCreator(QStringLiteral("QD8Designer2"));
-        written = paint(writer, step);
+    const QString creator = QStringLiteral("QD8Designer2");
+    // The report's own writer first; a face it cannot embed (no TrueType outlines) sends the
+    // whole report through Qt's PDF engine instead.
+    for (const bool own : {true, false}) {
+        QSaveFile file(fileName);
+        bool written = false, embeddable = true;
+        if (file.open(QIODevice::WriteOnly)) {
+            if (own) {
+                ReportPdf pdf(&file, d->page, d->definition.title, creator);
+                written = true;
+                for (int p = 0; written && p < pageCount(); ++p) {
+                    pdf.beginPage();
+                    d->drawPage(pdf, p);
+                    pdf.endPage();
+                    written = pdf.embeddable() && (!step || step(p + 1));
+                }
+                written = written && pdf.finish();
+                embeddable = pdf.embeddable();
+            } else {
+                QPdfWriter writer(&file);
+                writer.setPageLayout(pageLayout());
+                writer.setTitle(d->definition.title);
+                writer.setCreator(creator);
+                written = paint(writer, step);
+            }
+        }
+        if (written && file.commit())
+            return true;
+        if (!embeddable)
+            continue;
+        if (file.error() != QFileDevice::NoError)
+            d->error = inLanguage(d->definition.languageId, "บันทึกแฟ้ม %1 ไม่ได้: %2", "Could not write %1: %2").arg(fileName, file.errorString());
+        file.cancelWriting();
+        return false;
     }
-    if (written && file.commit())
-        return true;
-    if (file.error() != QFileDevice::NoError)
-        d->error = inLanguage(d->definition.languageId, "บันทึกแฟ้ม %1 ไม่ได้: %2", "Could not write %1: %2").arg(fileName, file.errorString());
-    file.cancelWriting();
     return false;
 }
 
