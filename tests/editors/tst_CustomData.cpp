@@ -19,6 +19,8 @@ protected:
     void SetUp() override
     {
         SampleCompanyTest::SetUp();
+        if (IsSkipped())
+            return;
         lists.setConnectionString(appConnectionString());
         lists.SetLast2("", "CustomData", "1", dataConnectionString(), appConnectionString());
     }

@@ -25,6 +25,8 @@ protected:
     void SetUp() override
     {
         SampleCompanyTest::SetUp();
+        if (IsSkipped())
+            return;
         config.open();
     }
     // An editor of the scope named, given the session as the workbench gives it.

@@ -464,15 +464,6 @@ TEST_P(DataViewTest, RowColoursComeFromTheCallbackOverTheRowsFields)
     EXPECT_FALSE(view.model()->index(0, 0).data(Qt::BackgroundRole).isValid());
 }
 
-TEST_P(DataViewTest, EveryWidgetAPersonCanReachHasAName)
-{
-    DataView view;
-    describe(view);
-    open(view);
-    view.show();
-    EXPECT_EQ(unnamedWidgets(&view), QStringList());
-}
-
 QD8_ON_BOTH_ENGINES(DataViewTest);
 
 } // namespace
