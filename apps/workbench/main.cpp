@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QIcon>
 #include <QMessageBox>
 #include <QRawFont>
 #include <QShortcut>
@@ -59,6 +60,9 @@ int main(int argc, char* argv[])
     chooseTouchKeyboard(argc, argv);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("qd8-workbench"));
+    // The same picture as the menu entry, so the window and its launcher look alike.
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/qd8-workbench/qd8-workbench.svg")));
+    QGuiApplication::setDesktopFileName(QStringLiteral("qd8-workbench"));
     QCommandLineParser options;
     options.setApplicationDescription(QStringLiteral("QD8 Workbench: the suite's launchers and forms on a company's databases."));
     options.addHelpOption();

@@ -5,6 +5,7 @@
 #include "foundation/Connection.h"
 #include "foundation/DateText.h"
 #include "foundation/DbError.h"
+#include "foundation/Language.h"
 #include "foundation/Recordset.h"
 #include "foundation/Services.h"
 #include "foundation/Values.h"
@@ -366,7 +367,7 @@ void DocumentStatus::ShowDocumentStatus2(int& DisplayMode, int& NotUseNow, QStri
             if (!names.contains(login)) {
                 Recordset user;
                 user.open(Sql("SELECT TUsrName, TUsrName2 FROM QD8TUser WHERE TUsrLoginName=") + quoted(login), connection);
-                names.insert(login, user.eof() ? QString() : user.text(LanguageID() == 0 ? QStringLiteral("TUsrName") : QStringLiteral("TUsrName2")));
+                names.insert(login, user.eof() ? QString() : user.text(QStringLiteral("TUsrName") + qd8::nameSuffix(LanguageID())));
             }
             return names.value(login);
         };
