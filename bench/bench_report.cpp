@@ -141,8 +141,8 @@ int main(int argc, char** argv)
         const bool postgres = run.db->isPostgres();
         const QString floor = postgres ? QStringLiteral("raw_libpq") : QStringLiteral("raw_c_api");
         registerOn(run, floor.toLatin1().constData(), postgres ? rawLibpq : rawSqlite, 3);
-        registerOn(run, "report_pdf", pdf, 1)->Iterations(1);
-        registerOn(run, "report_xlsx", xlsx, 1)->Iterations(1);
+        registerOn(run, "report_pdf", pdf, 3)->Iterations(1);
+        registerOn(run, "report_xlsx", xlsx, 3)->Iterations(1);
         ratios.push_back({run.title + QStringLiteral(", 100000-row report to PDF"), run.prefix + "report_pdf", run.prefix + floor, 5.0});
         ratios.push_back({run.title + QStringLiteral(", 100000-row report to XLSX"), run.prefix + "report_xlsx", run.prefix + floor, 5.0});
         figures << firstPage(run);
