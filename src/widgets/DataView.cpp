@@ -76,11 +76,14 @@ struct CountReceiver {
 // Counts run on a pool of their own: a count cannot be stopped half-way and a view must
 // close at once, so a count may outlive its view. The pool is made after the connection
 // pool, so at exit it waits for the last counts while their connections are still there.
+// The application's end waits for them too: a count still connecting while the process
+// exits would meet client libraries (libpq's Kerberos) already torn down.
 QThreadPool& countPool()
 {
     static QThreadPool* pool = [] {
         ConnectionPool::instance();
         static QThreadPool threads;
+        qAddPostRoutine([] { threads.waitForDone(); });
         return &threads;
     }();
     return *pool;
