@@ -3,6 +3,7 @@
 #include "foundation/DbError.h"
 #include "foundation/Language.h"
 #include "foundation/Services.h"
+#include "foundation/TableExport.h"
 #include "widgets/PickListModel_p.h"
 #include "widgets/Twips.h"
 
@@ -10,9 +11,11 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QDir>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -87,6 +90,7 @@ PickListDialog::PickListDialog(const PickRequest& request, QWidget* parent)
     auto* searchRow = new QHBoxLayout;
     searchRow->addWidget(searchLabel);
     searchRow->addWidget(m_search, 1);
+    searchRow->addWidget(buildExport(language));
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(searchRow);
     layout->addWidget(m_view, 1);
@@ -223,6 +227,71 @@ void PickListDialog::showMessage(const QString& message, const QString& details)
     m_message->setText(message);
     m_message->setToolTip(details);
     m_message->setVisible(!message.isEmpty());
+}
+
+// Export, with the lists' key: Ctrl+Shift+E writes a workbook, the button's menu offers CSV too.
+// Beside the search, whose narrowing it keeps.
+QPushButton* PickListDialog::buildExport(int language)
+{
+    auto* button = new QPushButton(inLanguage(language, "ส่งออก", "Export"), this);
+    button->setObjectName(QStringLiteral("btnExport"));
+    button->setAutoDefault(false);
+    button->setAccessibleName(button->text());
+    auto* menu = new QMenu(button);
+    QAction* xlsx = menu->addAction(inLanguage(language, "ส่งออกเป็น Excel (XLSX)", "Export to Excel (XLSX)"));
+    QAction* csv = menu->addAction(inLanguage(language, "ส่งออกเป็น CSV", "Export to CSV"));
+    xlsx->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E));
+    xlsx->setShortcutContext(Qt::WindowShortcut);
+    addAction(xlsx);
+    button->setMenu(menu);
+    button->setToolTip(xlsx->text() + QStringLiteral(" (") + xlsx->shortcut().toString(QKeySequence::NativeText) + u')');
+    connect(xlsx, &QAction::triggered, this, [this] { exportAs(false); });
+    connect(csv, &QAction::triggered, this, [this] { exportAs(true); });
+    return button;
+}
+
+void PickListDialog::exportAs(bool csv)
+{
+    const QString suffix = csv ? QStringLiteral(".csv") : QStringLiteral(".xlsx");
+    const QString name = windowTitle().trimmed().isEmpty() ? accessibleName() : windowTitle().trimmed();
+    const QString file = askFileToWrite(accessibleName(), QDir::home().filePath(name + suffix), suffix,
+        csv ? QStringLiteral("CSV (*.csv)") : QStringLiteral("Excel (*.xlsx)"));
+    if (!file.isEmpty())
+        exportRows(file);
+}
+
+bool PickListDialog::exportRows(const QString& fileName)
+{
+    const int language = Services::messages().language();
+    const QString title = inLanguage(language, "ส่งออกรายการ", "Export the list");
+    // The search narrows rows already read, so every row of the source is read first.
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    m_model->fetchAll();
+    QGuiApplication::restoreOverrideCursor();
+    QList<TableExport::Column> columns;
+    QList<int> shown;
+    const auto& all = m_model->columns();
+    for (int c = 0; c < all.size(); ++c) {
+        if (m_view->isColumnHidden(c))
+            continue;
+        // Twips to characters: a character of the list's font is about 120 twips wide.
+        columns.append({all[c].caption, all[c].isText ? TableExport::Type::Text : TableExport::Type::Number,
+            qMax(all[c].widthTwips / 120, 4)});
+        shown << c;
+    }
+    TableExport out(fileName, columns, language);
+    for (int row = 0; row < m_model->rowCount() && out.errorText().isEmpty(); ++row) {
+        QVariantList values;
+        for (int c : std::as_const(shown)) {
+            const QString text = m_model->shownText(row, c);
+            values << (text.isEmpty() ? QVariant() : QVariant(text));  // NULL stays an empty cell
+        }
+        out.addRow(values);
+    }
+    if (out.errorText().isEmpty() && out.finish())
+        return true;
+    Services::messages().critical(title, out.errorText());
+    return false;
 }
 
 void PickListDialog::updatePickButton()

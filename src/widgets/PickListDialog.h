@@ -8,6 +8,7 @@
 class QDialogButtonBox;
 class QLabel;
 class QLineEdit;
+class QPushButton;
 class QTableView;
 
 namespace qd8 {
@@ -34,6 +35,11 @@ public:
     QLineEdit* searchBox() const { return m_search; }
     QTableView* view() const { return m_view; }
 
+    // Writes the rows the list keeps (every row of the source, narrowed by the search in
+    // force) in its shown columns to an XLSX or CSV file (by suffix); false, after saying
+    // why, when that failed.
+    bool exportRows(const QString& fileName);
+
     // Shows the pick list modally; the picked key, or "" when nothing was picked.
     static QString pick(const PickRequest& request, QWidget* parent = nullptr);
 
@@ -51,6 +57,8 @@ private:
     void selectFirstRow();
     void showMessage(const QString& message, const QString& details = {});
     void updatePickButton();
+    QPushButton* buildExport(int language);
+    void exportAs(bool csv);
 
     PickListModel* m_model;
     QLineEdit* m_search;

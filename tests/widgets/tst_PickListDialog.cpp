@@ -1,4 +1,6 @@
+#include "support/ReadBack.h"
 #include "support/ScratchDatabase.h"
+#include "support/ScriptedServices.h"
 
 #include "foundation/SqlTrace.h"
 #include "widgets/PickListDialog.h"
@@ -13,6 +15,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
+#include <QJsonArray>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
@@ -403,6 +407,35 @@ TEST_P(PickListTest, BigSourcesAreReadAScreenAtATime)
     EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.model()->rowCount() > PickListModel::FirstRows; }));
     QTest::keyClick(dialog.searchBox(), Qt::Key_PageDown);
     EXPECT_NE(selectedKey(dialog), QStringLiteral("R5099"));
+}
+
+// An export writes every row the list keeps, not only the screen read so far, in the shown
+// columns, prices as numbers and a missing price as an empty cell.
+TEST_P(PickListTest, ExportWritesEveryKeptRowTyped)
+{
+    addRows(100, 349);  // 250 more rows in use than the first screen's 100
+    QTemporaryDir folder;
+    const QString file = folder.filePath("goods.xlsx");
+    for (const QString& search : {QString(), QStringLiteral("b00")}) {
+        SCOPED_TRACE(search.toStdString());
+        PickListDialog dialog(goods());
+        dialog.show();
+        dialog.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        dialog.searchBox()->setText(search);
+        scriptedPicker().fileAnswers = {file};
+        QTest::keyClick(&dialog, Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
+        const QJsonArray rows = readWorkbook(file);
+        ASSERT_EQ(rows.size(), 1 + dialog.model()->rowCount() + 1);  // header, rows, frozen pane
+        EXPECT_EQ(rows.size(), search.isEmpty() ? 1 + 254 + 1 : 1 + 2 + 1);
+        EXPECT_EQ(rows[0].toArray().size(), 4);  // the hidden ID column stays out
+        if (!search.isEmpty()) {
+            EXPECT_EQ(rows[1].toArray()[3].toArray()[1].toString(), "45");
+            EXPECT_NE(rows[1].toArray()[3].toArray()[0].toString(), "str");  // a number, not its text
+            EXPECT_EQ(rows[2].toArray()[1].toArray()[1].toString(), "ยางลบ");
+            EXPECT_EQ(rows[2].toArray()[3].toArray()[0].toString(), "NoneType");
+        }
+    }
 }
 
 TEST_P(PickListTest, EveryWidgetHasAnAccessibleName)
