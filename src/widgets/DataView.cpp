@@ -8,6 +8,7 @@
 #include "foundation/Language.h"
 #include "foundation/Services.h"
 #include "widgets/DataViewModel_p.h"
+#include "widgets/ExportMenu_p.h"
 #include "widgets/TableParts_p.h"
 #include "widgets/Twips.h"
 
@@ -18,7 +19,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
@@ -97,9 +97,7 @@ struct DataView::Private {
     QTableView* view;
     QProgressBar* progress;
     std::array<QPushButton*, Buttons.size()> buttons{};
-    QToolButton* exportButton;
-    QAction* exportXlsx;
-    QAction* exportCsv;
+    std::unique_ptr<ExportMenu> exportMenu;
     // The statement in force, read again whole by an export.
     Sql select;
     QString connectionString;
@@ -123,7 +121,6 @@ struct DataView::Private {
     void nameParts(int languageId);
     void buildButtons(QHBoxLayout* strip);
     void buildExport(QHBoxLayout* strip);
-    void nameExport();
     QList<TableExport::Column> exportColumns(QList<QString>& fields) const;
     void applyColumns();
     void applyRowHeight();
@@ -146,9 +143,6 @@ DataView::Private::Private(DataView* owner)
     , view(new QTableView(owner))
     , progress(new QProgressBar(owner))
     , countTimer(new QTimer(owner))
-    , exportButton(new QToolButton(owner))
-    , exportXlsx(new QAction(owner))
-    , exportCsv(new QAction(owner))
 {
     countTimer->setSingleShot(true);
     QObject::connect(countTimer, &QTimer::timeout, owner, [this] { startPendingCount(); });
@@ -180,40 +174,18 @@ void DataView::Private::nameParts(int languageId)
     q->setAccessibleName(inLanguage(languageId, "ตารางข้อมูล", "Data view"));
     nameTableParts(view, progress, languageId, "รายการ", "Rows");
     this->languageId = languageId;
-    nameExport();
+    if (exportMenu)
+        exportMenu->word(languageId);
 }
 
 void DataView::Private::buildExport(QHBoxLayout* strip)
 {
-    exportButton->setObjectName(QStringLiteral("btnExport"));
-    exportButton->setPopupMode(QToolButton::InstantPopup);
-    auto* menu = new QMenu(exportButton);
-    menu->addAction(exportXlsx);
-    menu->addAction(exportCsv);
-    exportButton->setMenu(menu);
-    exportXlsx->setObjectName(QStringLiteral("actExportXlsx"));
-    exportCsv->setObjectName(QStringLiteral("actExportCsv"));
-    exportXlsx->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E));
-    exportXlsx->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    q->addAction(exportXlsx);
+    auto* button = new QToolButton(q);
+    exportMenu = std::make_unique<ExportMenu>(button, q, [this](TableExport::Format format) { q->exportAs(format); });
     view->setContextMenuPolicy(Qt::ActionsContextMenu);
-    view->addAction(exportXlsx);
-    view->addAction(exportCsv);
-    QObject::connect(exportXlsx, &QAction::triggered, q, [this] { q->exportAs(TableExport::Format::Xlsx); });
-    QObject::connect(exportCsv, &QAction::triggered, q, [this] { q->exportAs(TableExport::Format::Csv); });
-    strip->addWidget(exportButton);
-    nameExport();
-}
-
-void DataView::Private::nameExport()
-{
-    exportButton->setText(inLanguage(languageId, "ส่งออก", "Export"));
-    exportButton->setAccessibleName(exportButton->text());
-    if (QMenu* menu = exportButton->menu())
-        menu->setAccessibleName(exportButton->text());
-    exportXlsx->setText(inLanguage(languageId, "ส่งออกเป็น Excel (XLSX)", "Export to Excel (XLSX)"));
-    exportCsv->setText(inLanguage(languageId, "ส่งออกเป็น CSV", "Export to CSV"));
-    exportButton->setToolTip(exportXlsx->text() + QStringLiteral(" (") + exportXlsx->shortcut().toString(QKeySequence::NativeText) + QLatin1Char(')'));
+    view->addActions(exportMenu->actions());
+    strip->addWidget(button);
+    exportMenu->word(languageId);
 }
 
 QList<TableExport::Column> DataView::Private::exportColumns(QList<QString>& fields) const
@@ -635,14 +607,10 @@ bool DataView::exportRows(const QString& fileName)
 
 bool DataView::exportAs(TableExport::Format format)
 {
-    const bool csv = format == TableExport::Format::Csv;
-    const QString suffix = csv ? QStringLiteral(".csv") : QStringLiteral(".xlsx");
-    const QString title = csv ? d->exportCsv->text() : d->exportXlsx->text();
     QString name = window()->windowTitle().trimmed();
     if (name.isEmpty())
         name = accessibleName();
-    const QString file = askFileToWrite(title, QDir::home().filePath(name + suffix), suffix,
-        csv ? QStringLiteral("CSV (*.csv)") : QStringLiteral("Excel (*.xlsx)"));
+    const QString file = d->exportMenu->askFile(format, name);
     return !file.isEmpty() && exportRows(file);
 }
 

@@ -4,6 +4,7 @@
 #include "foundation/Language.h"
 #include "foundation/Services.h"
 #include "foundation/TableExport.h"
+#include "widgets/ExportMenu_p.h"
 #include "widgets/PickListModel_p.h"
 #include "widgets/Twips.h"
 
@@ -11,11 +12,9 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QDir>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
@@ -229,35 +228,18 @@ void PickListDialog::showMessage(const QString& message, const QString& details)
     m_message->setVisible(!message.isEmpty());
 }
 
-// Export, with the lists' key: Ctrl+Shift+E writes a workbook, the button's menu offers CSV too.
-// Beside the search, whose narrowing it keeps.
+// Export beside the search, whose narrowing it keeps.
 QPushButton* PickListDialog::buildExport(int language)
 {
-    auto* button = new QPushButton(inLanguage(language, "ส่งออก", "Export"), this);
-    button->setObjectName(QStringLiteral("btnExport"));
-    button->setAutoDefault(false);
-    button->setAccessibleName(button->text());
-    auto* menu = new QMenu(button);
-    QAction* xlsx = menu->addAction(inLanguage(language, "ส่งออกเป็น Excel (XLSX)", "Export to Excel (XLSX)"));
-    QAction* csv = menu->addAction(inLanguage(language, "ส่งออกเป็น CSV", "Export to CSV"));
-    xlsx->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E));
-    xlsx->setShortcutContext(Qt::WindowShortcut);
-    addAction(xlsx);
-    button->setMenu(menu);
-    button->setToolTip(xlsx->text() + QStringLiteral(" (") + xlsx->shortcut().toString(QKeySequence::NativeText) + u')');
-    connect(xlsx, &QAction::triggered, this, [this] { exportAs(false); });
-    connect(csv, &QAction::triggered, this, [this] { exportAs(true); });
+    auto* button = new QPushButton(this);
+    m_export = std::make_unique<ExportMenu>(button, this, [this](TableExport::Format format) {
+        const QString name = windowTitle().trimmed().isEmpty() ? accessibleName() : windowTitle().trimmed();
+        const QString file = m_export->askFile(format, name);
+        if (!file.isEmpty())
+            exportRows(file);
+    });
+    m_export->word(language);
     return button;
-}
-
-void PickListDialog::exportAs(bool csv)
-{
-    const QString suffix = csv ? QStringLiteral(".csv") : QStringLiteral(".xlsx");
-    const QString name = windowTitle().trimmed().isEmpty() ? accessibleName() : windowTitle().trimmed();
-    const QString file = askFileToWrite(accessibleName(), QDir::home().filePath(name + suffix), suffix,
-        csv ? QStringLiteral("CSV (*.csv)") : QStringLiteral("Excel (*.xlsx)"));
-    if (!file.isEmpty())
-        exportRows(file);
 }
 
 bool PickListDialog::exportRows(const QString& fileName)

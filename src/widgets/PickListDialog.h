@@ -4,6 +4,7 @@
 
 #include <QDialog>
 #include <QString>
+#include <memory>
 
 class QDialogButtonBox;
 class QLabel;
@@ -13,6 +14,7 @@ class QTableView;
 
 namespace qd8 {
 
+class ExportMenu;
 class PickListModel;
 
 // The modal pick list: the request's columns over its source, a search box that filters
@@ -58,7 +60,6 @@ private:
     void showMessage(const QString& message, const QString& details = {});
     void updatePickButton();
     QPushButton* buildExport(int language);
-    void exportAs(bool csv);
 
     PickListModel* m_model;
     QLineEdit* m_search;
@@ -67,6 +68,7 @@ private:
     QDialogButtonBox* m_buttons;
     QString m_pickedKey;
     QString m_errorText;
+    std::unique_ptr<ExportMenu> m_export;
 };
 
 } // namespace qd8
