@@ -9,7 +9,11 @@
 
 namespace qd8 {
 
-QList<CompanyUser> companyUsers(const QString& dataConnectionString)
+namespace {
+
+// The active users by TUsrID; `named`: with each one's name in the language of his own
+// setting, which costs a read per user.
+QList<CompanyUser> readUsers(const QString& dataConnectionString, bool named)
 {
     Connection c;
     c.open(dataConnectionString);
@@ -19,12 +23,20 @@ QList<CompanyUser> companyUsers(const QString& dataConnectionString)
     for (; !rs.eof(); rs.moveNext()) {
         CompanyUser user{rs.field(QStringLiteral("TUsrID")).toInt(), rs.text(QStringLiteral("TUsrLoginName")), {},
             rs.text(QStringLiteral("TUsrLoginPassword"))};
-        // Each user's name in the language of his own setting.
-        const double language = DbSessionFunctions().GetUserSetting(user.id, QStringLiteral("LanguageID"), dataConnectionString);
-        user.name = rs.text(QStringLiteral("TUsrName") + nameSuffix(int(language)));
+        if (named) {
+            const double language = DbSessionFunctions().GetUserSetting(user.id, QStringLiteral("LanguageID"), dataConnectionString);
+            user.name = rs.text(QStringLiteral("TUsrName") + nameSuffix(int(language)));
+        }
         users << user;
     }
     return users;
+}
+
+} // namespace
+
+QList<CompanyUser> companyUsers(const QString& dataConnectionString)
+{
+    return readUsers(dataConnectionString, true);
 }
 
 QString passwordHash(const QString& password)
@@ -34,7 +46,7 @@ QString passwordHash(const QString& password)
 
 std::optional<CompanyUser> checkLogin(const QString& dataConnectionString, const QString& loginName, const QString& password)
 {
-    for (const CompanyUser& user : companyUsers(dataConnectionString))
+    for (const CompanyUser& user : readUsers(dataConnectionString, false))
         if (user.loginName.compare(loginName, Qt::CaseInsensitive) == 0)
             return user.passwordHash.isEmpty() || user.passwordHash == passwordHash(password) ? std::optional(user) : std::nullopt;
     return std::nullopt;

@@ -20,7 +20,7 @@ QList<CompanyUser> companyUsers(const QString& dataConnectionString);
 // A password as QD8TUser keeps it.
 QString passwordHash(const QString& password);
 // The user with this login name (in any case) when the password is his; a user without a
-// password takes any.
+// password takes any. The user found carries no name.
 std::optional<CompanyUser> checkLogin(const QString& dataConnectionString, const QString& loginName, const QString& password);
 
 } // namespace qd8

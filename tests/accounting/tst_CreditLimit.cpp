@@ -44,15 +44,13 @@ QStringList fixture()
     return sql;
 }
 
-class CreditLimitTest : public EngineTest {
+class CreditLimitTest : public CompanyDataTest {
 protected:
     void SetUp() override
     {
-        EngineTest::SetUp();
+        CompanyDataTest::SetUp();
         if (IsSkipped())
             return;
-        db = std::make_unique<ScratchDatabase>(engine());
-        db->createSchema(DatabaseRole::CompanyData);
         db->run(fixture());
         data = std::make_shared<DbDataObject>(db->connectionString(), QString(), 1, QStringLiteral("SOMCHAI"));
     }
@@ -63,7 +61,6 @@ protected:
                            "'ARCREDITBALANCEIGNORECHEQUE', '%2')")
                 .arg(DbDataObject::scopeName(OptionScope::Company), value)});
     }
-    std::unique_ptr<ScratchDatabase> db;
     std::shared_ptr<DataObject> data;
     CreditLimit panel;
 };

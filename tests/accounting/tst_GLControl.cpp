@@ -52,15 +52,13 @@ void fixture(const QString& cs)
 }
 
 // A voucher panel on a scratch company database of the engine under test.
-class GLControlTest : public EngineTest {
+class GLControlTest : public CompanyDataTest {
 protected:
     void SetUp() override
     {
-        EngineTest::SetUp();
+        CompanyDataTest::SetUp();
         if (IsSkipped())
             return;
-        db = std::make_unique<ScratchDatabase>(engine());
-        db->createSchema(DatabaseRole::CompanyData);
         fixture(db->connectionString());
         gl = panel();
     }
@@ -83,7 +81,6 @@ protected:
         p.FillLine("4100", false, money("100"));
     }
     qint64 count(const char* sql) const { return queryColumn(db->connectionString(), Sql(sql)).value(0).toLongLong(); }
-    std::unique_ptr<ScratchDatabase> db;
     std::unique_ptr<GLControl> gl;
 };
 

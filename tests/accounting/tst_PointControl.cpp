@@ -25,15 +25,13 @@ const QStringList Fixture = {
     "INSERT INTO QD8TSO (TSODNo, TSOType, TSODTARNCode, TInvTJobNo) VALUES ('RO1', 2, 'C1', 'P1'), ('SO9', 0, 'C1', 'P6')",
 };
 
-class PointControlTest : public ScratchTableTest {
+class PointControlTest : public CompanyDataTest {
 protected:
-    QStringList tableStatements() const override { return {}; }
     void SetUp() override
     {
-        ScratchTableTest::SetUp();
+        CompanyDataTest::SetUp();
         if (IsSkipped())
             return;
-        db->createSchema(DatabaseRole::CompanyData);
         db->run(Fixture);
         panel.SetFirst(db->connectionString(), 1, QStringLiteral("SO"), 1);
     }

@@ -37,15 +37,13 @@ QString customerOf(int i)
     return QStringList{"C1", "C2", "C3"}[i * 3 / Invoices];
 }
 
-class ReportDocumentTest : public EngineTest {
+class ReportDocumentTest : public CompanyDataTest {
 protected:
     void SetUp() override
     {
-        EngineTest::SetUp();
+        CompanyDataTest::SetUp();
         if (IsSkipped())
             return;
-        db = std::make_unique<ScratchDatabase>(engine());
-        db->createSchema(DatabaseRole::CompanyData);
         QStringList values;
         for (int i = 0; i < Invoices; ++i) {
             const QString description = customerOf(i) == "C3" ? LongWords.join("") : QStringLiteral("ใบแจ้งหนี้ %1").arg(i);
@@ -78,7 +76,6 @@ protected:
         return s;
     }
 
-    std::unique_ptr<ScratchDatabase> db;
     QTemporaryDir folder;
 };
 

@@ -95,6 +95,15 @@ void ScratchTableTest::SetUp()
     db->run(tableStatements());
 }
 
+void CompanyDataTest::SetUp()
+{
+    EngineTest::SetUp();
+    if (IsSkipped())
+        return;
+    db = std::make_unique<ScratchDatabase>(engine());
+    db->createSchema(DatabaseRole::CompanyData);
+}
+
 QStringList queryColumn(const QString& connectionString, const Sql& sql)
 {
     Connection connection;

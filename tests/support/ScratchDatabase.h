@@ -55,6 +55,15 @@ protected:
     std::unique_ptr<ScratchDatabase> db;
 };
 
+// A scratch company-data database with the real schema, per test on the engine under test.
+class CompanyDataTest : public EngineTest {
+protected:
+    void SetUp() override;
+    void TearDown() override { db.reset(); }
+
+    std::unique_ptr<ScratchDatabase> db;
+};
+
 // What `sql` reads on `connectionString`: its first column, row by row, as text.
 QStringList queryColumn(const QString& connectionString, const Sql& sql);
 

@@ -19,15 +19,13 @@ namespace {
 constexpr int Rows = 3000;
 constexpr int Kept = 2000;  // the rows the list's filter keeps
 
-class DataViewExportTest : public EngineTest {
+class DataViewExportTest : public CompanyDataTest {
 protected:
     void SetUp() override
     {
-        EngineTest::SetUp();
+        CompanyDataTest::SetUp();
         if (IsSkipped())
             return;
-        db = std::make_unique<ScratchDatabase>(engine());
-        db->createSchema(DatabaseRole::CompanyData);
         QStringList values;
         for (int i = 0; i < Rows; ++i)
             values << QStringLiteral("('IV%1', '2026-02-%2', 'C%3', 'งานติดตั้ง \"ระบบ\", ชุด %1', %4.25, %5)")
@@ -45,7 +43,6 @@ protected:
         ASSERT_LT(view.fetchedRows(), Kept);
     }
 
-    std::unique_ptr<ScratchDatabase> db;
     DataView view;
     QTemporaryDir folder;
 };
